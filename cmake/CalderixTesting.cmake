@@ -1,0 +1,32 @@
+# calderix_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [OWN_MAIN])
+#
+# One GoogleTest executable whose cases ctest runs one by one. Every case
+# runs headless and under the project's sanitizer settings. OWN_MAIN leaves
+# main() to the test (for suites that need a QApplication or a helper mode).
+include(GoogleTest)
+find_package(GTest REQUIRED)
+
+set(CALDERIX_TEST_ENV
+  "QT_QPA_PLATFORM=offscreen"
+  "ASAN_OPTIONS=detect_leaks=1:abort_on_error=0:strict_string_checks=1"
+  "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp:print_suppressions=0"
+  "UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1"
+)
+
+function(calderix_add_test name)
+  cmake_parse_arguments(ARG "OWN_MAIN" "TIMEOUT" "SOURCES;LIBS;LABELS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  target_link_libraries(${name} PRIVATE GTest::gtest GTest::gmock ${ARG_LIBS})
+  if(NOT ARG_OWN_MAIN)
+    target_link_libraries(${name} PRIVATE GTest::gtest_main)
+  endif()
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  gtest_discover_tests(${name}
+    DISCOVERY_TIMEOUT 120
+    PROPERTIES
+      ENVIRONMENT "${CALDERIX_TEST_ENV}"
+      LABELS "${ARG_LABELS}"
+      TIMEOUT ${ARG_TIMEOUT})
+endfunction()

@@ -1,0 +1,1 @@
+#include "calderix-service.h"

@@ -1,0 +1,1 @@
+#include "mac-service.h"
