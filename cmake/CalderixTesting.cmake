@@ -25,6 +25,7 @@ function(calderix_add_test name)
   endif()
   gtest_discover_tests(${name}
     DISCOVERY_TIMEOUT 120
+    NO_PRETTY_VALUES
     PROPERTIES
       ENVIRONMENT "${CALDERIX_TEST_ENV}"
       LABELS "${ARG_LABELS}"
