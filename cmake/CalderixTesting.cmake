@@ -23,11 +23,14 @@ function(calderix_add_test name)
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
+  # gtest_discover_tests flattens a list given as ENVIRONMENT into the other
+  # properties, so the environment travels through env(1) instead; ctest and
+  # the discovery step both run the test that way.
+  set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR /usr/bin/env ${CALDERIX_TEST_ENV})
   gtest_discover_tests(${name}
     DISCOVERY_TIMEOUT 120
     NO_PRETTY_VALUES
     PROPERTIES
-      ENVIRONMENT "${CALDERIX_TEST_ENV}"
       LABELS "${ARG_LABELS}"
       TIMEOUT ${ARG_TIMEOUT})
 endfunction()
