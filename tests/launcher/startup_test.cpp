@@ -1,0 +1,145 @@
+// Start-up of the real launcher binary from an assembled bundle.
+#include <cstdlib>
+#include <regex>
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "launcher_fixture.h"
+#include "single_instance_guard.h"
+
+using namespace testsupport;
+
+namespace {
+
+using Startup = LauncherFixture;
+
+TEST_F(Startup, PrintsItsPluginFolderFirstAndExitsZero)
+{
+    const ProcessResult r = RunLauncher();
+    ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
+    EXPECT_EQ(r.exit_code, 0) << r.err;
+    EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
+}
+
+TEST_F(Startup, CreatesTheLogFolderInTheUsersInstallation)
+{
+    const ProcessResult r = RunLauncher();
+    ASSERT_TRUE(r.exited && r.exit_code == 0) << r.err;
+    EXPECT_TRUE(Exists(LogPath())) << LogPath() << " was not created";
+}
+
+// HOME below a regular file cannot hold the log folder, even for root: the
+// logger stays on standard error and start-up carries on.
+TEST_F(Startup, HomeThatCannotHoldTheLogFolderStillStarts)
+{
+    const std::string blocker = dir_ / "not-a-folder";
+    ASSERT_TRUE(WriteFile(blocker, "x")) << blocker << ": " << strerror(errno);
+    const std::string home = blocker + "/home";
+
+    const ProcessResult r = testsupport::Run({launcher_}, Env(home));
+    ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
+    EXPECT_EQ(r.exit_code, 0) << r.err;
+    EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
+    EXPECT_EQ(ReadFile(blocker), "x") << "the regular file in the way was changed";
+}
+
+struct LanguageCase {
+    const char* name;
+    const char* lang;
+    const char* code;
+};
+
+class StartupLanguage : public LauncherFixture, public ::testing::WithParamInterface<LanguageCase> {};
+
+// The launcher picks the catalogue from the user's locale and finds it among
+// its compiled-in resources; the choice is traced on standard error.
+TEST_P(StartupLanguage, ChoosesTheCatalogueOfTheUsersLocale)
+{
+    const LanguageCase& c = GetParam();
+    std::vector<EnvChange> env = Env(home_);
+    env.push_back(Set("LANG", c.lang));
+    env.push_back(Unset("LC_ALL"));
+    env.push_back(Unset("LANGUAGE"));
+    const ProcessResult r = testsupport::Run({launcher_}, env);
+    ASSERT_TRUE(r.exited && r.exit_code == 0) << r.err;
+    EXPECT_NE(r.err.find(std::string("qPrintable(qstrDef)=[") + c.code + "]"), std::string::npos) << r.err;
+    EXPECT_NE(r.err.find(std::string("qPrintable(qstrLangFileName)=[:/") + c.code + ".qm]"), std::string::npos)
+        << r.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, StartupLanguage,
+                         ::testing::Values(LanguageCase{"German", "de_DE.UTF-8", "deu"},
+                                           LanguageCase{"BrazilianPortuguese", "pt_BR.UTF-8", "ptb"},
+                                           LanguageCase{"Posix", "C", "enu"}),
+                         [](const ::testing::TestParamInfo<LanguageCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+int CountLines(const std::string& text, const std::regex& pattern)
+{
+    int n = 0;
+    for (const std::string& line : Lines(text)) {
+        n += std::regex_match(line, pattern) ? 1 : 0;
+    }
+    return n;
+}
+
+struct SecondStartCase {
+    const char* name;
+    const char* levels; // content of the bundle's level file, nullptr for none
+    int debug_lines;    // "app has already launched" lines expected in the log
+};
+
+class SecondStart : public LauncherFixture, public ::testing::WithParamInterface<SecondStartCase> {};
+
+// This test process holds the launcher's instance, as a running launcher of
+// the same user and executable would; the launcher must step aside.
+TEST_P(SecondStart, ExitsAtOnceAndLeavesTheInstallationAlone)
+{
+    const SecondStartCase& c = GetParam();
+    if (c.levels != nullptr) {
+        SetLevels(c.levels);
+    }
+    ASSERT_EQ(setenv("TMPDIR", tmp_.c_str(), 1), 0);
+    ASSERT_EQ(setenv("HOME", home_.c_str(), 1), 0);
+    ASSERT_EQ(unsetenv("XDG_RUNTIME_DIR"), 0);
+    SingleInstanceGuard first(QString::fromStdString(launcher_));
+    ASSERT_FALSE(first.isRunning()) << "the test could not take the launcher's instance";
+
+    const ProcessResult r = RunLauncher();
+    ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
+    EXPECT_EQ(r.exit_code, 0) << r.err;
+    EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
+    const std::regex refusal(
+        R"([A-Z][a-z]{2} [ 0-9]\d \d\d:\d\d:\d\d \[DEBUG\] main\(\d+\): app has already launched, return)");
+    EXPECT_EQ(CountLines(ReadFile(LogPath()), refusal), c.debug_lines) << ReadFile(LogPath());
+    EXPECT_FALSE(Exists(home_ + "/.Calderix/Calderix.app")) << "a refused start touched the installation";
+}
+
+INSTANTIATE_TEST_SUITE_P(Levels, SecondStart,
+                         ::testing::Values(SecondStartCase{"DebugEnabled", "launcher_debug=7\n", 1},
+                                           SecondStartCase{"NoLevelFile", nullptr, 0},
+                                           SecondStartCase{"InfoOnly", "launcher_debug=6\n", 0},
+                                           SecondStartCase{"OtherComponent", "service_debug=7\n", 0}),
+                         [](const ::testing::TestParamInfo<SecondStartCase>& info) {
+                             return std::string(info.param.name);
+                         });
+
+// Once the first launcher is gone its instance is free again.
+TEST_F(Startup, StartsAgainAfterTheHolderLetGo)
+{
+    SetLevels("launcher_debug=7\n");
+    ASSERT_EQ(setenv("TMPDIR", tmp_.c_str(), 1), 0);
+    ASSERT_EQ(setenv("HOME", home_.c_str(), 1), 0);
+    ASSERT_EQ(unsetenv("XDG_RUNTIME_DIR"), 0);
+    {
+        SingleInstanceGuard first(QString::fromStdString(launcher_));
+        ASSERT_FALSE(first.isRunning());
+    }
+    const ProcessResult r = RunLauncher();
+    ASSERT_TRUE(r.exited && r.exit_code == 0) << r.err;
+    EXPECT_EQ(ReadFile(LogPath()).find("app has already launched"), std::string::npos) << ReadFile(LogPath());
+}
+
+} // namespace
