@@ -1,0 +1,259 @@
+#include "extractor.h"
+
+#include <archive.h>
+#include <archive_entry.h>
+#include <cstdio>
+#include <memory>
+
+#include "launcher.h"
+#include "log.h"
+#include "strtable.h"
+
+static const ustring log_component("extractor_debug");
+
+namespace {
+
+// The archive is read in blocks of this many bytes, on both passes.
+constexpr size_t kBlockSize = 10240;
+
+// Unlink what is in an entry's way, refuse ".." elements and restore the
+// platform's extended metadata; ownership, permissions (the umask applies)
+// and times are deliberately left to the extracting user.
+constexpr int kDiskOptions =
+    ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
+static_assert(kDiskOptions == 0x2210, "the disk writer's options are part of the package contract");
+
+// String id of the "initialising" text that the dialog shows meanwhile.
+constexpr int kPreparingTextId = 461;
+
+struct ReadFree {
+    void operator()(archive* a) const { archive_read_free(a); }
+};
+struct WriteFree {
+    void operator()(archive* a) const { archive_write_free(a); }
+};
+using ReadHandle = std::unique_ptr<archive, ReadFree>;
+using WriteHandle = std::unique_ptr<archive, WriteFree>;
+
+// The one place where libarchive's results become ours: ARCHIVE_WARN means
+// an entry was not restored as stored, which for an installation is as bad
+// as not at all. Callers test for ARCHIVE_EOF themselves where it ends a
+// loop.
+bool Succeeded(la_ssize_t r)
+{
+    return r == ARCHIVE_OK;
+}
+
+// libarchive leaves a handle's error string null until something fails on
+// it; printf must never see that null.
+const char* ErrorText(archive* a)
+{
+    const char* text = archive_error_string(a);
+    return text != nullptr ? text : "";
+}
+
+// archive_read_extract2 records a failed disk write on the writer, but a
+// failure to read the entry's data (a damaged archive) only on the reader,
+// so the writer's reason comes first and the reader's fills in.
+const char* ExtractErrorText(archive* in, archive* out)
+{
+    const char* text = archive_error_string(out);
+    return text != nullptr ? text : ErrorText(in);
+}
+
+// A read handle on path with every filter and format enabled, positioned
+// before the first header; null, after logging why, when the handle cannot
+// be created or the archive cannot be opened.
+ReadHandle OpenForScan(const ustring& path)
+{
+    ReadHandle in(archive_read_new());
+    if (!in) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Allocate archive failed\n",
+                       __LINE__);
+        return nullptr;
+    }
+    // A filter or format this libarchive lacks only makes archives that need
+    // it fail to open, which the open below reports.
+    archive_read_support_filter_all(in.get());
+    archive_read_support_format_all(in.get());
+    if (!Succeeded(archive_read_open_filename(in.get(), path.c_str_utf8(), kBlockSize))) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
+                       ErrorText(in.get()));
+        return nullptr;
+    }
+    return in;
+}
+
+// Writes the entries of the opened archive in below dest_dir through the
+// disk writer out, reporting (total, n) after entry n. 0 at the end of the
+// archive, -1 at the first failure; what was written before stays on disk.
+int WriteEntries(archive* in, archive* out, const ustring& dest_dir, int total)
+{
+    Notify_Adapter* relay = Notify_Adapter::GetInstance();
+    for (int current = 1;; ++current) {
+        archive_entry* entry = nullptr;
+        const int r = archive_read_next_header(in, &entry);
+        if (r == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (!Succeeded(r)) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n", __LINE__,
+                           ErrorText(in));
+            return -1;
+        }
+
+        const char* stored = archive_entry_pathname(entry);
+        if (stored == nullptr) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            return -1;
+        }
+        // Prefixing every path, absolute ones included, keeps the entry
+        // below dest_dir; ".." elements are the disk writer's to refuse.
+        const ustring target = dest_dir + "/" + stored;
+        archive_entry_set_pathname(entry, target.c_str_utf8());
+
+        if (!Succeeded(archive_read_extract2(in, entry, out))) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
+                           ExtractErrorText(in, out));
+            return -1;
+        }
+        relay->UpdateProgress(total, current);
+        if (!Succeeded(archive_write_finish_entry(out))) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
+                           ErrorText(out));
+            return -1;
+        }
+    }
+}
+
+} // namespace
+
+int Extractor::Count()
+{
+    if (dest_dir.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
+                       __LINE__);
+        return -1;
+    }
+    ReadHandle in = OpenForScan(archive_path);
+    if (!in) {
+        return -1;
+    }
+    // A failed skip leaves the reader unable to find the next header, and
+    // that failure ends the count like the end of the archive does.
+    int count = 0;
+    archive_entry* entry = nullptr;
+    while (Succeeded(archive_read_next_header(in.get(), &entry))) {
+        ++count;
+        archive_read_data_skip(in.get());
+    }
+    return count;
+}
+
+int Extractor::List()
+{
+    if (dest_dir.empty() || archive_path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
+                       __LINE__);
+        return -1;
+    }
+    ReadHandle in = OpenForScan(archive_path);
+    if (!in) {
+        return -1;
+    }
+    // An entry without a path name still gets its line, so that the lines
+    // stay in step with the entries.
+    archive_entry* entry = nullptr;
+    while (Succeeded(archive_read_next_header(in.get(), &entry))) {
+        const char* name = archive_entry_pathname(entry);
+        std::fputs(name != nullptr ? name : "", stdout);
+        std::fputc('\n', stdout);
+        std::fflush(stdout);
+        archive_read_data_skip(in.get());
+    }
+    archive_read_close(in.get());
+    return 0;
+}
+
+int Extractor::Extract()
+{
+    if (archive_path.empty() || dest_dir.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid Argument\n",
+                       __LINE__);
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
+                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__, archive_path.c_str(),
+                   dest_dir.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingTextId));
+
+    const int total = Count();
+    if (total < 1) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__,
+                       total);
+        return -1;
+    }
+
+    // Declared first so that the reader is released before the writer.
+    WriteHandle out;
+    ReadHandle in(archive_read_new());
+    out.reset(archive_write_disk_new());
+    if (!in || !out) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        return -1;
+    }
+    // Setting options on a fresh disk writer has nothing that can fail.
+    archive_write_disk_set_options(out.get(), kDiskOptions);
+
+    // The older name of archive_read_support_filter_all; a filter this
+    // libarchive lacks shows up as a failure to open below.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
+    archive_read_support_compression_all(in.get());
+#pragma GCC diagnostic pop
+    archive_read_support_format_all(in.get());
+    if (!Succeeded(archive_read_open_filename(in.get(), archive_path.c_str_utf8(), kBlockSize))) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
+                       archive_path.c_str(), ErrorText(in.get()));
+        return -1;
+    }
+    return WriteEntries(in.get(), out.get(), dest_dir, total);
+}
+
+int Extractor::copy_data(archive* in, archive* out)
+{
+    if (in == nullptr || out == nullptr) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid Argument\n",
+                       __LINE__);
+        return -1;
+    }
+    for (;;) {
+        const void* buffer = nullptr;
+        size_t size = 0;
+        la_int64_t offset = 0;
+        const int r = archive_read_data_block(in, &buffer, &size, &offset);
+        if (r == ARCHIVE_EOF) {
+            return 0;
+        }
+        if (!Succeeded(r)) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
+                           ErrorText(in));
+            return -1;
+        }
+        if (!Succeeded(archive_write_data_block(out, buffer, size, offset))) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
+                           ErrorText(out));
+            return -1;
+        }
+    }
+}
