@@ -1,4 +1,4 @@
-# calderix_add_test(<name> SOURCES ... [LIBS ...] [LABELS ...] [OWN_MAIN])
+# calderix_add_test(<name> SOURCES ... [LIBS ...] [LABELS <label>] [TIMEOUT <s>] [OWN_MAIN])
 #
 # One GoogleTest executable whose cases ctest runs one by one. Every case
 # runs headless and under the project's sanitizer settings. OWN_MAIN leaves
@@ -27,10 +27,18 @@ function(calderix_add_test name)
   # properties, so the environment travels through env(1) instead; ctest and
   # the discovery step both run the test that way.
   set_property(TARGET ${name} PROPERTY CROSSCOMPILING_EMULATOR /usr/bin/env ${CALDERIX_TEST_ENV})
+  # The properties reach ctest as one flat list that discovery splits
+  # again, so a suite carries a single label, and none when none is given.
+  list(LENGTH ARG_LABELS label_count)
+  if(label_count GREATER 1)
+    message(FATAL_ERROR "calderix_add_test(${name}): one label per suite, got ${ARG_LABELS}")
+  endif()
+  set(properties TIMEOUT ${ARG_TIMEOUT})
+  if(ARG_LABELS)
+    list(APPEND properties LABELS ${ARG_LABELS})
+  endif()
   gtest_discover_tests(${name}
     DISCOVERY_TIMEOUT 120
     NO_PRETTY_VALUES
-    PROPERTIES
-      LABELS "${ARG_LABELS}"
-      TIMEOUT ${ARG_TIMEOUT})
+    PROPERTIES ${properties})
 endfunction()
