@@ -1,14 +1,70 @@
 #include "calderix-service.h"
 
+#include <cstdio>
+
 #include <QCoreApplication>
 #include <QDir>
+#include <QSettings>
 #include <QString>
+#include <QVariant>
+
+#include "extractor.h"
+#include "file-op.h"
+#include "log.h"
+
+static const ustring log_component("service_debug");
 
 namespace {
+
+// The upgrade tries at most this many backup names before it gives up.
+const int kBackupTries = 10;
 
 ustring FromQString(const QString& s)
 {
     return ustring(s.toUtf8().constData());
+}
+
+// The name the old bundle takes on backup try n: path + "_tmp", followed by
+// n in decimal from the second try on.
+ustring GetAppBackupDir(const ustring& path, int n)
+{
+    const ustring base = path + "_tmp";
+    if (n == 0) {
+        return base;
+    }
+    char suffix[8];
+    if (snprintf(suffix, sizeof suffix, "%d", n) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] calderix-service(%d): snprintf failed (continuing without postfix)",
+                       __LINE__);
+        suffix[0] = '\0';
+    }
+    return base + suffix;
+}
+
+// Copies the "Version" values of the INI file at path into info, key by key;
+// a key the file lacks (or a file that cannot be read) leaves its field as
+// it was. Reads only.
+void ReadVersionFile(const ustring& path, VerInfo& info)
+{
+    static const struct {
+        const char* key;
+        ustring VerInfo::*field;
+    } keys[] = {
+        {"major_version", &VerInfo::major_version},
+        {"minor_version", &VerInfo::minor_version},
+        {"build_version", &VerInfo::build_version},
+        {"icon_overlay_version", &VerInfo::icon_overlay_version},
+    };
+    QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
+    settings.beginGroup(QStringLiteral("Version"));
+    for (const auto& k : keys) {
+        const QString key = QString::fromLatin1(k.key);
+        if (settings.contains(key)) {
+            info.*k.field = FromQString(settings.value(key).toString());
+        }
+    }
+    settings.endGroup();
 }
 
 } // namespace
@@ -22,27 +78,188 @@ void Service::SetTimeout(int value)
     timeout = value;
 }
 
-// Until the extractor is wired in there is nothing to extract with; report
-// failure so that no caller mistakes an empty bundle for an installed one.
+// Returns 0 with the package's entries below the user's bundle folder (which
+// it creates, parents included), -1 when that folder cannot be created, or
+// the extractor's result; a failed extraction leaves what it wrote.
 int Service::ExtractPackage()
 {
-    return -1;
+    const ustring archive_path = GetRootCalderixResourceInstallPath() + "/package/calderix.vpk";
+    const ustring destination = GetUserCalderixAppInstallPath();
+    if (FSMKDir(destination, true) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] calderix-service(%d): failed to create folder: '%s'\n", __LINE__,
+                       destination.c_str());
+        return -1;
+    }
+    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                   "[INFO] calderix-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
+                   archive_path.c_str(), destination.c_str());
+    Extractor extractor;
+    extractor.dest_dir = destination;
+    extractor.archive_path = archive_path;
+    return extractor.Extract();
 }
 
-void Service::LoadSourceVersion() {}
+// Fills source_version from the installed copy's "INFO"; without that file
+// the record keeps its values and only the absence is logged.
+void Service::LoadSourceVersion()
+{
+    const ustring path = GetUserCalderixAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    if (!IsFileExist(path, false)) {
+        Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                       "[INFO] calderix-service(%d): source does not exist\n", __LINE__);
+        return;
+    }
+    ReadVersionFile(path, source_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                   "[INFO] calderix-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
+                   source_version.major_version.c_str(), source_version.minor_version.c_str(),
+                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+}
 
-void Service::LoadTargetVersion() {}
+// Fills target_version from the launcher bundle's "INFO". A missing file
+// reads as one without keys, so the line is logged in every case.
+void Service::LoadTargetVersion()
+{
+    const ustring path = GetRootCalderixResourceInstallPath() + "/" + "INFO";
+    ReadVersionFile(path, target_version);
+    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                   "[INFO] calderix-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
+                   target_version.major_version.c_str(), target_version.minor_version.c_str(),
+                   target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
+}
 
+// Returns 0 with the package extracted into app_path and the backup names
+// up to the one used removed; -1 with the old bundle where it was when no
+// backup name was free, or moved back after a failed extraction. Without an
+// old bundle a failed extraction leaves what it wrote.
 int Service::PrepareUserEnv()
 {
-    return -1;
+    const ustring bundle = app_path;
+    ustring backup;
+    int used = 0;
+
+    if (IsFileExist(bundle, false)) {
+        bool moved = false;
+        for (used = 0; used < kBackupTries; ++used) {
+            backup = GetAppBackupDir(bundle, used);
+            if (FSRename(bundle, backup, false) == 0) {
+                moved = true;
+                break;
+            }
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] calderix-service(%d): failed to backup app from '%s' -> '%s'\n", __LINE__,
+                           bundle.c_str(), backup.c_str());
+        }
+        if (!moved) {
+            Logger::LogMsg(
+                Logger::LEVEL_ERROR, log_component,
+                "[ERROR] calderix-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
+                "exiting\n",
+                __LINE__, bundle.c_str(), backup.c_str());
+            return -1;
+        }
+    }
+
+    if (ExtractPackage() != 0) {
+        if (backup.empty()) {
+            Logger::LogMsg(
+                Logger::LEVEL_ERROR, log_component,
+                "[ERROR] calderix-service(%d): Failed to extract package, and no old installation to "
+                "rollback\n",
+                __LINE__);
+            return -1;
+        }
+        Logger::LogMsg(
+            Logger::LEVEL_ERROR, log_component,
+            "[ERROR] calderix-service(%d): Failed to extract package, rollback to old installation\n",
+            __LINE__);
+        // Best effort: if either step fails there is nothing better to put
+        // in place, and the backup stays under its name for the next run.
+        FSRemove(bundle, false);
+        FSRename(backup, bundle, false);
+        return -1;
+    }
+
+    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                   "[INFO] calderix-service(%d): user installation is ready, removing backup app\n",
+                   __LINE__);
+    for (int j = 0; j <= used; ++j) {
+        FSRemove(GetAppBackupDir(bundle, j), false);
+    }
+    return 0;
 }
 
-void Service::RemoveAgedFolders() {}
-
-int Service::FSCopyPath(const ustring&, const ustring&)
+// Removes the user installation's "app" folder, a leftover of older
+// layouts, whether or not it is there; failures are of no consequence.
+void Service::RemoveAgedFolders()
 {
-    return -1;
+    const ustring path = GetUserCalderixInstallPath() + "/app";
+    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
+                   "[INFO] calderix-service(%d): removing aged app folder %s\n", __LINE__, path.c_str());
+    FSRemove(path, false);
+}
+
+// Copies the file or tree at source to destination, entry by entry in
+// listing order. Returns 0, or -1 at the first failure with what was copied
+// so far left in place. A folder that cannot be listed gives an empty
+// destination folder and 0.
+int Service::FSCopyPath(const ustring& source, const ustring& destination)
+{
+    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
+                   "[DEBUG] calderix-service(%d): copy from '%s' to '%s'\n", __LINE__, source.c_str(),
+                   destination.c_str());
+    _FILE_INFO_tag info;
+    if (FSStat(source, info, false) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] calderix-service(%d): FSCopyPath: failed to stat source '%s'\n", __LINE__,
+                       source.c_str());
+        return -1;
+    }
+    if (!info.exist) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] calderix-service(%d): FSCopyPath: source path '%s' does not exist\n",
+                       __LINE__, source.c_str());
+        return -1;
+    }
+    if (info.type != FS_TYPE_DIR) {
+        // FSCopy has logged why; the caller still learns that nothing usable
+        // arrived.
+        return FSCopy(source, destination, false) < 0 ? -1 : 0;
+    }
+    if (FSMKDir(destination, true) < 0) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                       "[ERROR] calderix-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
+                       __LINE__, destination.c_str());
+        return -1;
+    }
+
+    DIR_HANDLE handle;
+    if (FSOpenDir(source, 0, handle) < 0) {
+        Logger::LogMsg(
+            Logger::LEVEL_WARNING, log_component,
+            "[WARNING] calderix-service(%d): FSCopyPath: failed to create handle  for src '%s' failed\n",
+            __LINE__, source.c_str());
+        return 0;
+    }
+    DIR_ENTRY entry;
+    while (FSReadDir(handle, entry) > 0) {
+        if (entry.name == ".." || entry.name == ".") {
+            continue;
+        }
+        const ustring from = source + "/" + entry.name;
+        const ustring to = destination + "/" + entry.name;
+        const int r = entry.type == FS_TYPE_DIR ? FSCopyPath(from, to) : FSCopy(from, to, false);
+        if (r < 0) {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] calderix-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
+                           __LINE__, from.c_str(), to.c_str());
+            FSCloseDir(handle);
+            return -1;
+        }
+    }
+    FSCloseDir(handle);
+    return 0;
 }
 
 ustring Service::GetUserInstallPath()

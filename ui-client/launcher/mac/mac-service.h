@@ -4,9 +4,16 @@
 
 #include "calderix-service.h"
 
+namespace platform {
+class LaunchServices;
+}
+
 class MacService : public Service {
 public:
     MacService();
+    // Starts the user interface through launch (not owned, must outlive
+    // the service) instead of the system's Launch Services.
+    explicit MacService(platform::LaunchServices& launch);
     ~MacService() override;
 
     void StopService() override;
@@ -23,4 +30,7 @@ public:
     bool PerUserBinPathExist();
     // Opens the user's bundle, which starts its user interface: 0, or -1.
     int LaunchPerUserBin();
+
+private:
+    platform::LaunchServices* launch_services;
 };

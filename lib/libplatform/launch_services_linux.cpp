@@ -1,0 +1,398 @@
+#include "launch_services.h"
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <dirent.h>
+#include <fcntl.h>
+#include <linux/close_range.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+// A property list larger than this is not a bundle's Info.plist.
+const off_t kMaxPlistSize = 1 << 20;
+
+// The one place where a failed call becomes a result: its errno, and never
+// 0, so that a call that failed without setting errno cannot read as success.
+int LastError()
+{
+    return errno != 0 ? errno : EIO;
+}
+
+// Reads the whole regular file at path into out. Returns 0, or an errno
+// value (EFBIG for a file above limit bytes).
+int ReadSmallFile(const std::string& path, off_t limit, std::string& out)
+{
+    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        return LastError();
+    }
+    struct stat st;
+    int result = 0;
+    if (fstat(fd, &st) != 0) {
+        result = LastError();
+    } else if (st.st_size > limit) {
+        result = EFBIG;
+    } else {
+        out.clear();
+        char buf[8192];
+        for (;;) {
+            const ssize_t n = read(fd, buf, sizeof buf);
+            if (n == 0) {
+                break;
+            }
+            if (n < 0 && errno == EINTR) {
+                continue;
+            }
+            if (n < 0) {
+                result = LastError();
+                break;
+            }
+            out.append(buf, static_cast<size_t>(n));
+            if (static_cast<off_t>(out.size()) > limit) {
+                result = EFBIG;
+                break;
+            }
+        }
+    }
+    close(fd);
+    return result;
+}
+
+// The character data of an XML text node with the five predefined entities
+// replaced; anything else starting with "&" is kept as it stands.
+std::string DecodeXmlText(const std::string& text)
+{
+    static const struct {
+        const char* entity;
+        char c;
+    } entities[] = {{"&amp;", '&'}, {"&lt;", '<'}, {"&gt;", '>'}, {"&quot;", '"'}, {"&apos;", '\''}};
+    std::string out;
+    for (size_t i = 0; i < text.size();) {
+        bool replaced = false;
+        if (text[i] == '&') {
+            for (const auto& e : entities) {
+                const size_t len = strlen(e.entity);
+                if (text.compare(i, len, e.entity) == 0) {
+                    out += e.c;
+                    i += len;
+                    replaced = true;
+                    break;
+                }
+            }
+        }
+        if (!replaced) {
+            out += text[i++];
+        }
+    }
+    return out;
+}
+
+// The string value of key in an XML property list: the text of the
+// <string> element that follows <key>key</key>, past blanks and comments.
+// Empty when the key is missing or holds another kind of value.
+std::string PlistString(const std::string& plist, const std::string& key)
+{
+    const std::string tag = "<key>" + key + "</key>";
+    size_t pos = plist.find(tag);
+    if (pos == std::string::npos) {
+        return {};
+    }
+    pos += tag.size();
+    for (;;) {
+        pos = plist.find_first_not_of(" \t\r\n", pos);
+        if (pos == std::string::npos) {
+            return {};
+        }
+        if (plist.compare(pos, 4, "<!--") != 0) {
+            break;
+        }
+        pos = plist.find("-->", pos + 4);
+        if (pos == std::string::npos) {
+            return {};
+        }
+        pos += 3;
+    }
+    static const std::string open = "<string>";
+    if (plist.compare(pos, open.size(), open) != 0) {
+        return {};
+    }
+    pos += open.size();
+    const size_t end = plist.find("</string>", pos);
+    if (end == std::string::npos) {
+        return {};
+    }
+    return DecodeXmlText(plist.substr(pos, end - pos));
+}
+
+bool IsExecutableFile(const struct stat& st)
+{
+    return S_ISREG(st.st_mode) && (st.st_mode & 0111) != 0;
+}
+
+// The name of the only executable regular file directly in folder (links
+// followed, hidden names skipped). Returns 0 with name set, ENOENT when
+// there is none or more than one, or the errno of a failed listing.
+int OnlyExecutable(const std::string& folder, std::string& name)
+{
+    DIR* dir = opendir(folder.c_str());
+    if (dir == nullptr) {
+        return LastError();
+    }
+    int found = 0;
+    int result = 0;
+    for (;;) {
+        errno = 0;
+        const struct dirent* e = readdir(dir);
+        if (e == nullptr) {
+            result = errno;
+            break;
+        }
+        if (e->d_name[0] == '.') {
+            continue;
+        }
+        struct stat st;
+        if (stat((folder + "/" + e->d_name).c_str(), &st) == 0 && IsExecutableFile(st)) {
+            name = e->d_name;
+            ++found;
+        }
+    }
+    closedir(dir);
+    if (result != 0) {
+        return result;
+    }
+    return found == 1 ? 0 : ENOENT;
+}
+
+// The path of the executable that opening the bundle starts: the one that
+// Contents/Info.plist names, or, when the bundle has no Info.plist or it
+// names none, the only executable in Contents/MacOS. Returns 0 with exe
+// set, or an errno value (EINVAL for a name that leaves that folder).
+int BundleExecutable(const std::string& bundle, std::string& exe)
+{
+    const std::string folder = bundle + "/Contents/MacOS";
+    std::string plist;
+    std::string name;
+    const int r = ReadSmallFile(bundle + "/Contents/Info.plist", kMaxPlistSize, plist);
+    if (r == 0) {
+        name = PlistString(plist, "CFBundleExecutable");
+    } else if (r != ENOENT) {
+        return r;
+    }
+    if (name.empty()) {
+        const int found = OnlyExecutable(folder, name);
+        if (found != 0) {
+            return found;
+        }
+    }
+    if (name == "." || name == ".." || name.find('/') != std::string::npos) {
+        return EINVAL;
+    }
+    exe = folder + "/" + name;
+    return 0;
+}
+
+// Whether a process whose effective user is ours runs the file exe (the
+// same file, whatever path it was started by). Zombies run nothing. When
+// the process table cannot be read nothing is seen running.
+bool RunsForUser(const struct stat& exe)
+{
+    DIR* proc = opendir("/proc");
+    if (proc == nullptr) {
+        return false;
+    }
+    const uid_t uid = geteuid();
+    bool found = false;
+    while (!found) {
+        const struct dirent* e = readdir(proc);
+        if (e == nullptr) {
+            break;
+        }
+        if (e->d_name[0] < '1' || e->d_name[0] > '9' ||
+            strspn(e->d_name, "0123456789") != strlen(e->d_name)) {
+            continue;
+        }
+        const std::string base = std::string("/proc/") + e->d_name;
+        struct stat owner;
+        struct stat target;
+        // A process that ended since the listing fails these and is skipped.
+        if (stat(base.c_str(), &owner) != 0 || owner.st_uid != uid ||
+            stat((base + "/exe").c_str(), &target) != 0) {
+            continue;
+        }
+        found = target.st_dev == exe.st_dev && target.st_ino == exe.st_ino;
+    }
+    closedir(proc);
+    return found;
+}
+
+// In a forked child: tells the parent why the start failed and ends.
+[[noreturn]] void ReportAndExit(int report, int error)
+{
+    while (write(report, &error, sizeof error) < 0 && errno == EINTR) {
+    }
+    _exit(127);
+}
+
+// In the forked child of a possibly multi-threaded process, so only
+// async-signal-safe calls: a new session, a second fork so that the
+// program is nobody's child, then the program with a clean slate of
+// signals and no descriptor of ours but /dev/null on 0 to 2.
+[[noreturn]] void ExecDetached(const char* exe, char* const argv[], const char* folder, int report,
+                               int max_fd)
+{
+    if (setsid() < 0) {
+        ReportAndExit(report, LastError());
+    }
+    const pid_t grandchild = fork();
+    if (grandchild < 0) {
+        ReportAndExit(report, LastError());
+    }
+    if (grandchild > 0) {
+        _exit(0);
+    }
+    if (chdir(folder) != 0) {
+        ReportAndExit(report, LastError());
+    }
+    const int null_fd = open("/dev/null", O_RDWR);
+    if (null_fd < 0) {
+        ReportAndExit(report, LastError());
+    }
+    for (int fd = 0; fd <= 2; ++fd) {
+        if (dup2(null_fd, fd) < 0) {
+            ReportAndExit(report, LastError());
+        }
+    }
+    if (null_fd > 2) {
+        close(null_fd);
+    }
+    sigset_t none;
+    sigemptyset(&none);
+    sigprocmask(SIG_SETMASK, &none, nullptr);
+    struct sigaction dfl;
+    memset(&dfl, 0, sizeof dfl);
+    dfl.sa_handler = SIG_DFL;
+    for (int sig = 1; sig < NSIG; ++sig) {
+        // Fails, harmlessly, for the signals that cannot be caught.
+        sigaction(sig, &dfl, nullptr);
+    }
+    // The report pipe is close-on-exec already; everything else follows it.
+    if (close_range(3, ~0U, CLOSE_RANGE_CLOEXEC) != 0) {
+        for (int fd = 3; fd <= max_fd; ++fd) {
+            fcntl(fd, F_SETFD, FD_CLOEXEC);
+        }
+    }
+    execv(exe, argv);
+    ReportAndExit(report, LastError());
+}
+
+// The platform hook: starts exe in folder, detached in a session of its
+// own. Returns 0 once exe has replaced the child, or the errno value of the
+// step that failed.
+int SpawnDetached(const std::string& exe, const std::string& folder)
+{
+    struct rlimit limit;
+    const int max_fd = getrlimit(RLIMIT_NOFILE, &limit) == 0 && limit.rlim_cur < 65536
+                           ? static_cast<int>(limit.rlim_cur) - 1
+                           : 65535;
+    std::vector<char> arg0(exe.begin(), exe.end());
+    arg0.push_back('\0');
+    char* const argv[] = {arg0.data(), nullptr};
+
+    int pipe_fds[2];
+    if (pipe2(pipe_fds, O_CLOEXEC) != 0) {
+        return LastError();
+    }
+    const pid_t child = fork();
+    if (child < 0) {
+        const int error = LastError();
+        close(pipe_fds[0]);
+        close(pipe_fds[1]);
+        return error;
+    }
+    if (child == 0) {
+        close(pipe_fds[0]);
+        ExecDetached(exe.c_str(), argv, folder.c_str(), pipe_fds[1], max_fd);
+    }
+    close(pipe_fds[1]);
+
+    // The pipe stays open until the program has replaced the grandchild or
+    // one of the children has reported why it could not.
+    int error = 0;
+    ssize_t n;
+    do {
+        n = read(pipe_fds[0], &error, sizeof error);
+    } while (n < 0 && errno == EINTR);
+    const int read_error = n < 0 ? LastError() : 0;
+    close(pipe_fds[0]);
+
+    int status = 0;
+    pid_t waited;
+    do {
+        waited = waitpid(child, &status, 0);
+    } while (waited < 0 && errno == EINTR);
+
+    if (n < 0) {
+        return read_error;
+    }
+    if (n == static_cast<ssize_t>(sizeof error)) {
+        return error != 0 ? error : EIO;
+    }
+    if (n != 0) {
+        return EIO;
+    }
+    // A child that died before it could report leaves the pipe just as
+    // silent as a successful start. (With SIGCHLD ignored there is no
+    // status to look at; the pipe has the last word then.)
+    if (waited == child && !(WIFEXITED(status) && WEXITSTATUS(status) == 0)) {
+        return ECHILD;
+    }
+    return 0;
+}
+
+// Linux keeps no record of bundles, so there is nothing to forget; opening
+// runs the bundle's executable the way the desktop would on macOS.
+class LinuxLaunchServices : public LaunchServices {
+public:
+    int Unregister(const std::string&) override { return 0; }
+
+    int Open(const std::string& bundle) override
+    {
+        std::string exe;
+        const int r = BundleExecutable(bundle, exe);
+        if (r != 0) {
+            return r;
+        }
+        struct stat st;
+        if (stat(exe.c_str(), &st) != 0) {
+            return LastError();
+        }
+        if (!S_ISREG(st.st_mode)) {
+            return EACCES;
+        }
+        if (access(exe.c_str(), X_OK) != 0) {
+            return LastError();
+        }
+        if (RunsForUser(st)) {
+            return 0;
+        }
+        return SpawnDetached(exe, bundle + "/Contents/MacOS");
+    }
+};
+
+} // namespace
+
+LaunchServices& SystemLaunchServices()
+{
+    static LinuxLaunchServices services;
+    return services;
+}
+
+} // namespace platform

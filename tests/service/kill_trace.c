@@ -1,0 +1,60 @@
+/* Linked into the service driver in place of the C library's kill and
+ * sleep: each call is still made, and also written as a line to the file
+ * named by SERVICE_TRACE_FILE, so that the tests can see which signals the
+ * stop sequence sent and how often it waited. A trace that cannot be
+ * written ends the driver, so that a test never reads a short trace. */
+#define _GNU_SOURCE
+#include <errno.h>
+#include <fcntl.h>
+#include <signal.h>
+#include <stdarg.h>
+#include <stdio.h>
+#include <stdlib.h>
+#include <string.h>
+#include <sys/syscall.h>
+#include <time.h>
+#include <unistd.h>
+
+static void trace(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
+
+static void trace(const char* fmt, ...)
+{
+    static int fd = -2;
+    if (fd == -2) {
+        const char* path = getenv("SERVICE_TRACE_FILE");
+        fd = path != NULL ? open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644) : -1;
+        if (path != NULL && fd < 0) {
+            fprintf(stderr, "kill_trace: %s: %s\n", path, strerror(errno));
+            abort();
+        }
+    }
+    if (fd < 0) {
+        return;
+    }
+    va_list ap;
+    va_start(ap, fmt);
+    const int n = vdprintf(fd, fmt, ap);
+    va_end(ap);
+    if (n < 0) {
+        fprintf(stderr, "kill_trace: write: %s\n", strerror(errno));
+        abort();
+    }
+}
+
+int kill(pid_t pid, int sig)
+{
+    const long r = syscall(SYS_kill, pid, sig);
+    const int saved = errno;
+    trace("kill %d %d %s\n", (int)pid, sig, r == 0 ? "ok" : saved == ESRCH ? "ESRCH" : "error");
+    errno = saved;
+    return (int)r;
+}
+
+unsigned int sleep(unsigned int seconds)
+{
+    trace("sleep %u\n", seconds);
+    struct timespec left = {(time_t)seconds, 0};
+    while (nanosleep(&left, &left) != 0 && errno == EINTR) {
+    }
+    return 0;
+}
