@@ -1,0 +1,182 @@
+// The bundle's version file and property list, read and written with the
+// same Qt classes the launcher and the system use, so that a value vpkpack
+// accepts is the value the launcher sees.
+#include <QByteArray>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QXmlStreamReader>
+
+#include <climits>
+
+#include "vpkpack_p.h"
+
+namespace vpkpack {
+
+namespace {
+
+const char* const kVersionKeys[] = {"major_version", "minor_version", "build_version",
+                                    "icon_overlay_version"};
+
+Status Refuse(Error error, const std::string& entry, const std::string& detail = {})
+{
+    Status status;
+    status.error = error;
+    status.entry = entry;
+    status.detail = detail;
+    return status;
+}
+
+// QSettings reads only files; a private folder keeps the copy out of reach.
+Status WriteScratch(const QString& path, const std::string& data)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        file.write(data.data(), static_cast<qint64>(data.size())) != static_cast<qint64>(data.size()) ||
+        !file.flush()) {
+        return Refuse(Error::IoError, path.toStdString(), file.errorString().toStdString());
+    }
+    file.close();
+    return {};
+}
+
+// The build number as the launcher's atoi reads it, but only when the text
+// is nothing else: a plain decimal number above 0 that fits in an int.
+bool ParseBuild(const std::string& text, long* build)
+{
+    if (text.empty() || text.size() > 10) {
+        return false;
+    }
+    long value = 0;
+    for (char c : text) {
+        if (c < '0' || c > '9') {
+            return false;
+        }
+        value = value * 10 + (c - '0');
+    }
+    if (value <= 0 || value > INT_MAX) {
+        return false;
+    }
+    *build = value;
+    return true;
+}
+
+} // namespace
+
+Status ParseVersionFile(const std::string& data, VersionInfo* info)
+{
+    QTemporaryDir scratch;
+    if (!scratch.isValid()) {
+        return Refuse(Error::IoError, kInfoEntry, scratch.errorString().toStdString());
+    }
+    const QString path = scratch.filePath("INFO");
+    Status status = WriteScratch(path, data);
+    if (!status.ok()) {
+        return status;
+    }
+    QSettings settings(path, QSettings::IniFormat);
+    if (settings.status() != QSettings::NoError) {
+        return Refuse(Error::BadInfo, kInfoEntry);
+    }
+    VersionInfo read;
+    settings.beginGroup("Version");
+    for (const char* key : kVersionKeys) {
+        if (settings.contains(key)) {
+            read.values[key] = settings.value(key).toString().toStdString();
+        }
+    }
+    settings.endGroup();
+    const auto build = read.values.find("build_version");
+    if (build == read.values.end()) {
+        return Refuse(Error::MissingBuildVersion, kInfoEntry);
+    }
+    if (!ParseBuild(build->second, &read.build)) {
+        return Refuse(Error::BadBuildVersion, kInfoEntry, "build_version=" + build->second);
+    }
+    *info = read;
+    return {};
+}
+
+Status FormatVersionFile(const VersionInfo& info, std::string* data)
+{
+    QTemporaryDir scratch;
+    if (!scratch.isValid()) {
+        return Refuse(Error::IoError, "INFO", scratch.errorString().toStdString());
+    }
+    const QString path = scratch.filePath("INFO");
+    {
+        QSettings settings(path, QSettings::IniFormat);
+        settings.beginGroup("Version");
+        for (const char* key : kVersionKeys) {
+            const auto value = info.values.find(key);
+            if (value != info.values.end()) {
+                settings.setValue(key, QString::fromStdString(value->second));
+            }
+        }
+        settings.endGroup();
+        settings.sync();
+        if (settings.status() != QSettings::NoError) {
+            return Refuse(Error::IoError, path.toStdString(), "QSettings could not write the file");
+        }
+    }
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return Refuse(Error::IoError, path.toStdString(), file.errorString().toStdString());
+    }
+    const QByteArray bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError) {
+        return Refuse(Error::IoError, path.toStdString(), file.errorString().toStdString());
+    }
+    data->assign(bytes.constData(), static_cast<size_t>(bytes.size()));
+    return {};
+}
+
+Status ReadBundleExecutable(const std::string& plist, std::string* name)
+{
+    if (plist.compare(0, 6, "bplist") == 0) {
+        return Refuse(Error::BadInfoPlist, kPlistEntry, "binary property list; write it in XML form");
+    }
+    QXmlStreamReader xml(QByteArray::fromRawData(plist.data(), static_cast<int>(plist.size())));
+    if (!xml.readNextStartElement() || xml.name() != QLatin1String("plist")) {
+        return Refuse(Error::BadInfoPlist, kPlistEntry,
+                      xml.hasError() ? xml.errorString().toStdString() : "no <plist> element");
+    }
+    if (!xml.readNextStartElement() || xml.name() != QLatin1String("dict")) {
+        return Refuse(Error::BadInfoPlist, kPlistEntry,
+                      xml.hasError() ? xml.errorString().toStdString() : "no <dict> in <plist>");
+    }
+    std::string found;
+    while (xml.readNextStartElement()) {
+        if (xml.name() != QLatin1String("key")) {
+            xml.skipCurrentElement();
+            continue;
+        }
+        const QString key = xml.readElementText();
+        if (!xml.readNextStartElement()) {
+            break;
+        }
+        if (key != QLatin1String("CFBundleExecutable")) {
+            xml.skipCurrentElement();
+            continue;
+        }
+        if (xml.name() != QLatin1String("string")) {
+            return Refuse(Error::BadInfoPlist, kPlistEntry, "CFBundleExecutable is not a <string>");
+        }
+        found = xml.readElementText().toStdString();
+        if (found.empty()) {
+            return Refuse(Error::BadInfoPlist, kPlistEntry, "CFBundleExecutable is empty");
+        }
+    }
+    // A list cut short after the dictionary is still a broken list.
+    while (!xml.atEnd()) {
+        xml.readNext();
+    }
+    if (xml.hasError()) {
+        return Refuse(Error::BadInfoPlist, kPlistEntry,
+                      xml.errorString().toStdString() + " at line " + std::to_string(xml.lineNumber()));
+    }
+    *name = found;
+    return {};
+}
+
+} // namespace vpkpack

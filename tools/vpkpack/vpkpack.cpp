@@ -1,0 +1,567 @@
+// Packing a bundle and checking a package, over libarchive.
+//
+// Every entry is written with fixed owner, times and permissions so that
+// the same folder always gives the same bytes, and the UI executable and
+// the version file go last: an extraction that stops early leaves one of
+// them missing, which the launcher takes for an incomplete installation.
+#include <archive.h>
+#include <archive_entry.h>
+#include <cerrno>
+#include <memory>
+
+#include "vpkpack_p.h"
+
+namespace vpkpack {
+
+const char kInfoEntry[] = "Contents/Resources/INFO";
+const char kPlistEntry[] = "Contents/Info.plist";
+const char kMacOSFolder[] = "Contents/MacOS";
+const char kUiName[] = "calderix-drive-ui";
+
+namespace {
+
+// Same block size as the launcher's reader.
+constexpr size_t kBlockSize = 10240;
+constexpr size_t kCopyChunk = 65536;
+
+struct WriterFree {
+    void operator()(archive* a) const { archive_write_free(a); }
+};
+struct ReaderFree {
+    void operator()(archive* a) const { archive_read_free(a); }
+};
+struct EntryFree {
+    void operator()(archive_entry* e) const { archive_entry_free(e); }
+};
+using Writer = std::unique_ptr<archive, WriterFree>;
+using Reader = std::unique_ptr<archive, ReaderFree>;
+using ArchiveEntry = std::unique_ptr<archive_entry, EntryFree>;
+
+Status Refuse(Error error, const std::string& entry, const std::string& detail = {})
+{
+    Status status;
+    status.error = error;
+    status.entry = entry;
+    status.detail = detail;
+    return status;
+}
+
+Status ArchiveFailure(archive* a, const std::string& entry)
+{
+    const char* text = archive_error_string(a);
+    return Refuse(Error::ArchiveError, entry, text != nullptr ? text : "unknown libarchive error");
+}
+
+const char* Reason(Error error)
+{
+    switch (error) {
+    case Error::None:
+        return "no error";
+    case Error::NotFound:
+        return "no such file or folder";
+    case Error::PermissionDenied:
+        return "permission denied";
+    case Error::NoSpace:
+        return "no space left on device";
+    case Error::IoError:
+        return "input/output error";
+    case Error::NotAFolder:
+        return "not a folder";
+    case Error::OutputInsideBundle:
+        return "output would lie inside the bundle";
+    case Error::ArchiveError:
+        return "archive error";
+    case Error::ChangedWhilePacking:
+        return "file changed while it was being packed";
+    case Error::TooLarge:
+        return "file too large";
+    case Error::HardLink:
+        return "hard links are not allowed";
+    case Error::AbsoluteSymlink:
+        return "symbolic link with an absolute target";
+    case Error::EscapingSymlink:
+        return "symbolic link leads out of the bundle";
+    case Error::SymlinkLoop:
+        return "symbolic link loop";
+    case Error::BelowSymlink:
+        return "entry below a symbolic link";
+    case Error::DotDotName:
+        return "entry name contains '..'";
+    case Error::AbsoluteName:
+        return "absolute entry name";
+    case Error::UnsupportedType:
+        return "not a file, folder or symbolic link";
+    case Error::DuplicateEntry:
+        return "duplicate entry";
+    case Error::MissingInfo:
+        return "missing version file";
+    case Error::BadInfo:
+        return "version file is not valid INI";
+    case Error::MissingBuildVersion:
+        return "no build_version in the [Version] section";
+    case Error::BadBuildVersion:
+        return "build_version is not a decimal number above 0";
+    case Error::BadInfoPlist:
+        return "unreadable property list";
+    case Error::ForeignUiName:
+        return "property list names another UI executable than calderix-drive-ui";
+    case Error::MissingUi:
+        return "missing UI executable";
+    case Error::UiNotExecutable:
+        return "UI executable is not executable";
+    case Error::NotRegularFile:
+        return "not a regular file";
+    case Error::OutOfOrder:
+        return "entry out of order";
+    }
+    return "unknown error";
+}
+
+// Format, filter and their options on a fresh writer; nothing is written.
+Status ConfigureWriter(archive* a, Format format, const std::string& output)
+{
+    int r = ARCHIVE_OK;
+    if (format == Format::Zip) {
+        r = archive_write_set_format_zip(a);
+        if (r == ARCHIVE_OK) {
+            r = archive_write_zip_set_compression_deflate(a);
+        }
+        if (r == ARCHIVE_OK) {
+            r = archive_write_set_format_option(a, "zip", "compression-level", "9");
+        }
+        return r == ARCHIVE_OK ? Status() : ArchiveFailure(a, output);
+    }
+    // Restricted pax is plain ustar unless a name needs more. Names are
+    // stored as the bytes they are on disk (UTF-8 on the Mac) and flagged
+    // binary, so that no reader, whatever its locale, tries to convert them.
+    r = archive_write_set_format_pax_restricted(a);
+    if (r == ARCHIVE_OK) {
+        r = archive_write_set_format_option(a, "pax", "hdrcharset", "BINARY");
+    }
+    if (r == ARCHIVE_OK) {
+        switch (format) {
+        case Format::TarZst:
+            r = archive_write_add_filter_zstd(a);
+            if (r == ARCHIVE_OK) {
+                r = archive_write_set_filter_option(a, "zstd", "compression-level", "19");
+            }
+            break;
+        case Format::TarGz:
+            r = archive_write_add_filter_gzip(a);
+            if (r == ARCHIVE_OK) {
+                r = archive_write_set_filter_option(a, "gzip", "compression-level", "9");
+            }
+            // Without this the gzip header carries the time of packing.
+            if (r == ARCHIVE_OK) {
+                r = archive_write_set_filter_option(a, "gzip", "timestamp", nullptr);
+            }
+            break;
+        case Format::TarXz:
+            r = archive_write_add_filter_xz(a);
+            break;
+        case Format::Zip:
+            break;
+        }
+    }
+    if (r == ARCHIVE_OK) {
+        r = archive_write_set_bytes_per_block(a, static_cast<int>(kBlockSize));
+    }
+    return r == ARCHIVE_OK ? Status() : ArchiveFailure(a, output);
+}
+
+// The header of one entry, with everything that varies between machines
+// and checkouts (owners, times, umask) fixed.
+ArchiveEntry MakeHeader(const Entry& entry, int64_t size, time_t mtime)
+{
+    ArchiveEntry header(archive_entry_new());
+    if (!header) {
+        return header;
+    }
+    archive_entry_set_pathname(header.get(), entry.name.c_str());
+    switch (entry.type) {
+    case EntryType::Folder:
+        archive_entry_set_filetype(header.get(), AE_IFDIR);
+        archive_entry_set_perm(header.get(), 0755);
+        break;
+    case EntryType::Symlink:
+        archive_entry_set_filetype(header.get(), AE_IFLNK);
+        archive_entry_set_perm(header.get(), 0755);
+        archive_entry_set_symlink(header.get(), entry.link_target.c_str());
+        break;
+    case EntryType::File:
+    case EntryType::Other:
+        archive_entry_set_filetype(header.get(), AE_IFREG);
+        archive_entry_set_perm(header.get(), entry.executable ? 0755 : 0644);
+        archive_entry_set_size(header.get(), size);
+        break;
+    }
+    archive_entry_set_uid(header.get(), 0);
+    archive_entry_set_gid(header.get(), 0);
+    archive_entry_set_mtime(header.get(), mtime, 0);
+    return header;
+}
+
+Status WriteData(archive* a, const char* data, size_t size, const std::string& entry)
+{
+    const la_ssize_t written = archive_write_data(a, data, size);
+    if (written < 0 || static_cast<size_t>(written) != size) {
+        return ArchiveFailure(a, entry);
+    }
+    return {};
+}
+
+// Streams a file into the current entry; a file that grew or shrank since
+// its header was written would leave a corrupt entry, so it is refused.
+Status CopyFileData(archive* a, const Entry& entry)
+{
+    platform::InputFile file;
+    Status status = file.Open(entry.source, entry.name);
+    std::unique_ptr<char[]> buffer(new char[kCopyChunk]);
+    int64_t total = 0;
+    while (status.ok()) {
+        size_t got = 0;
+        status = file.Read(buffer.get(), kCopyChunk, &got);
+        if (!status.ok() || got == 0) {
+            break;
+        }
+        total += static_cast<int64_t>(got);
+        if (total > entry.size) {
+            return Refuse(Error::ChangedWhilePacking, entry.name);
+        }
+        status = WriteData(a, buffer.get(), got, entry.name);
+    }
+    if (status.ok() && total != entry.size) {
+        return Refuse(Error::ChangedWhilePacking, entry.name);
+    }
+    return status;
+}
+
+// Writes the entries, in order, as a package on fd. The version file's
+// bytes are the ones already validated, not a second read from disk.
+Status WritePackage(int fd, const std::string& output, const std::vector<Entry>& entries,
+                    const std::string& info_data, const PackOptions& options)
+{
+    Writer writer(archive_write_new());
+    if (!writer) {
+        return Refuse(Error::ArchiveError, output, "cannot allocate an archive writer");
+    }
+    Status status = ConfigureWriter(writer.get(), options.format, output);
+    if (!status.ok()) {
+        return status;
+    }
+    if (archive_write_open_fd(writer.get(), fd) != ARCHIVE_OK) {
+        return ArchiveFailure(writer.get(), output);
+    }
+    for (const Entry& entry : entries) {
+        const bool is_info = entry.name == kInfoEntry;
+        const int64_t size = is_info ? static_cast<int64_t>(info_data.size()) : entry.size;
+        ArchiveEntry header = MakeHeader(entry, size, options.mtime);
+        if (!header) {
+            return Refuse(Error::ArchiveError, entry.name, "cannot allocate an entry");
+        }
+        if (archive_write_header(writer.get(), header.get()) != ARCHIVE_OK) {
+            return ArchiveFailure(writer.get(), entry.name);
+        }
+        if (entry.type == EntryType::File) {
+            status = is_info ? WriteData(writer.get(), info_data.data(), info_data.size(), entry.name)
+                             : CopyFileData(writer.get(), entry);
+            if (!status.ok()) {
+                return status;
+            }
+        }
+        if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
+            return ArchiveFailure(writer.get(), entry.name);
+        }
+    }
+    if (archive_write_close(writer.get()) != ARCHIVE_OK) {
+        return ArchiveFailure(writer.get(), output);
+    }
+    return {};
+}
+
+// OutputInsideBundle when path would be written somewhere below bundle_dir.
+Status RefuseInside(const std::string& bundle_dir, const std::string& path)
+{
+    bool inside = false;
+    Status status = platform::IsInside(bundle_dir, path, &inside);
+    if (status.ok() && inside) {
+        return Refuse(Error::OutputInsideBundle, path);
+    }
+    return status;
+}
+
+const Entry* Find(const std::vector<Entry>& entries, const std::string& name)
+{
+    for (const Entry& entry : entries) {
+        if (entry.name == name) {
+            return &entry;
+        }
+    }
+    return nullptr;
+}
+
+// Reads the current entry's data whole (up to kSmallFileLimit) when keep
+// is given, else only reads through it, which still verifies checksums.
+Status ReadEntryData(archive* a, const std::string& name, std::string* keep)
+{
+    const void* block = nullptr;
+    size_t size = 0;
+    la_int64_t offset = 0;
+    for (;;) {
+        const int r = archive_read_data_block(a, &block, &size, &offset);
+        if (r == ARCHIVE_EOF) {
+            return {};
+        }
+        if (r != ARCHIVE_OK) {
+            return ArchiveFailure(a, name);
+        }
+        if (keep == nullptr) {
+            continue;
+        }
+        if (offset < 0 || static_cast<uint64_t>(offset) + size > kSmallFileLimit) {
+            return Refuse(Error::TooLarge, name);
+        }
+        if (keep->size() < static_cast<size_t>(offset) + size) {
+            keep->resize(static_cast<size_t>(offset) + size, '\0');
+        }
+        keep->replace(static_cast<size_t>(offset), size, static_cast<const char*>(block), size);
+    }
+}
+
+EntryType TypeOf(archive_entry* header)
+{
+    switch (archive_entry_filetype(header)) {
+    case AE_IFDIR:
+        return EntryType::Folder;
+    case AE_IFREG:
+        return EntryType::File;
+    case AE_IFLNK:
+        return EntryType::Symlink;
+    default:
+        return EntryType::Other;
+    }
+}
+
+// The stored bytes first: they are what the launcher's extractor uses.
+const char* PathnameOf(archive_entry* header)
+{
+    const char* name = archive_entry_pathname(header);
+    return name != nullptr ? name : archive_entry_pathname_utf8(header);
+}
+
+// Every entry of the package, in stored order, with the data of the
+// version file and of the property list kept aside.
+Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int* headers,
+                   std::string* info_data, std::string* plist_data, bool* plist_present)
+{
+    Reader reader(archive_read_new());
+    if (!reader) {
+        return Refuse(Error::ArchiveError, package, "cannot allocate an archive reader");
+    }
+    if (archive_read_support_filter_all(reader.get()) != ARCHIVE_OK ||
+        archive_read_support_format_all(reader.get()) != ARCHIVE_OK) {
+        return ArchiveFailure(reader.get(), package);
+    }
+    if (archive_read_open_filename(reader.get(), package.c_str(), kBlockSize) != ARCHIVE_OK) {
+        const int e = archive_errno(reader.get());
+        return e > 0 && e != EILSEQ ? platform::FromErrno(e, package) : ArchiveFailure(reader.get(), package);
+    }
+    std::string last = package;
+    for (;;) {
+        archive_entry* header = nullptr;
+        const int r = archive_read_next_header(reader.get(), &header);
+        if (r == ARCHIVE_EOF) {
+            break;
+        }
+        // The launcher stops at warnings too.
+        if (r != ARCHIVE_OK) {
+            return ArchiveFailure(reader.get(), last);
+        }
+        ++*headers;
+        const char* stored = PathnameOf(header);
+        Entry entry;
+        Status status = NormaliseName(stored != nullptr ? stored : "", &entry.name);
+        if (!status.ok()) {
+            return status;
+        }
+        last = entry.name.empty() ? stored : entry.name;
+        entry.type = TypeOf(header);
+        entry.executable = (archive_entry_perm(header) & 0111) != 0;
+        entry.hard_link = archive_entry_hardlink(header) != nullptr;
+        const char* target = archive_entry_symlink(header);
+        if (target == nullptr) {
+            target = archive_entry_symlink_utf8(header);
+        }
+        entry.link_target = target != nullptr ? target : "";
+        entry.size = archive_entry_size(header);
+        std::string* keep = nullptr;
+        if (entry.type == EntryType::File && entry.name == kInfoEntry) {
+            keep = info_data;
+        } else if (entry.type == EntryType::File && entry.name == kPlistEntry) {
+            keep = plist_data;
+            *plist_present = true;
+        } else if (entry.name == kPlistEntry) {
+            return Refuse(Error::NotRegularFile, kPlistEntry);
+        }
+        status = ReadEntryData(reader.get(), last, keep);
+        if (!status.ok()) {
+            return status;
+        }
+        // The bundle root itself ("./") is just the destination folder.
+        if (!entry.name.empty()) {
+            entries->push_back(entry);
+        }
+    }
+    if (archive_read_close(reader.get()) != ARCHIVE_OK) {
+        return ArchiveFailure(reader.get(), package);
+    }
+    return {};
+}
+
+} // namespace
+
+std::string Status::Message() const
+{
+    std::string text = std::string(Reason(error)) + ": '" + entry + "'";
+    if (!detail.empty()) {
+        text += " (" + detail + ")";
+    }
+    return text;
+}
+
+const char* FormatName(Format format)
+{
+    switch (format) {
+    case Format::TarZst:
+        return "tar.zst";
+    case Format::Zip:
+        return "zip";
+    case Format::TarGz:
+        return "tar.gz";
+    case Format::TarXz:
+        return "tar.xz";
+    }
+    return "unknown";
+}
+
+bool ParseFormat(const std::string& name, Format* format)
+{
+    for (Format candidate : {Format::TarZst, Format::Zip, Format::TarGz, Format::TarXz}) {
+        if (name == FormatName(candidate)) {
+            *format = candidate;
+            return true;
+        }
+    }
+    return false;
+}
+
+Status Pack(const std::string& bundle_dir, const std::string& output, const PackOptions& options,
+            PackageSummary* summary)
+{
+    // A package written into the bundle would end up inside the next one.
+    Status status = RefuseInside(bundle_dir, output);
+    if (status.ok() && !options.info_out.empty()) {
+        status = RefuseInside(bundle_dir, options.info_out);
+    }
+    std::vector<Entry> entries;
+    if (status.ok()) {
+        status = platform::ScanTree(bundle_dir, &entries);
+    }
+    if (!status.ok()) {
+        return status;
+    }
+
+    std::string plist;
+    const Entry* plist_entry = Find(entries, kPlistEntry);
+    if (plist_entry != nullptr && plist_entry->type != EntryType::File) {
+        return Refuse(Error::NotRegularFile, kPlistEntry);
+    }
+    if (plist_entry != nullptr) {
+        status = platform::ReadSmallFile(plist_entry->source, kPlistEntry, kSmallFileLimit, &plist);
+    }
+    std::string ui_entry;
+    if (status.ok()) {
+        status = UiEntryFromPlist(plist, plist_entry != nullptr, &ui_entry);
+    }
+    if (status.ok()) {
+        SortForPackage(&entries, ui_entry);
+        status = CheckEntries(entries);
+    }
+    if (status.ok()) {
+        status = CheckBundleFiles(entries, ui_entry);
+    }
+    std::string info_data;
+    if (status.ok()) {
+        status = platform::ReadSmallFile(Find(entries, kInfoEntry)->source, kInfoEntry, kSmallFileLimit,
+                                         &info_data);
+    }
+    PackageSummary found;
+    if (status.ok()) {
+        status = ParseVersionFile(info_data, &found.version);
+    }
+    if (!status.ok()) {
+        return status;
+    }
+    found.entries = static_cast<int>(entries.size());
+
+    platform::OutputFile package;
+    status = package.Create(output);
+    if (status.ok()) {
+        status = WritePackage(package.fd(), output, entries, info_data, options);
+    }
+    platform::OutputFile launcher_info;
+    if (status.ok() && !options.info_out.empty()) {
+        std::string text;
+        status = FormatVersionFile(found.version, &text);
+        if (status.ok()) {
+            status = launcher_info.Create(options.info_out);
+        }
+        if (status.ok()) {
+            status = launcher_info.Write(text);
+        }
+    }
+    if (status.ok()) {
+        status = package.Commit();
+    }
+    if (status.ok() && !options.info_out.empty()) {
+        status = launcher_info.Commit();
+    }
+    if (status.ok() && summary != nullptr) {
+        *summary = found;
+    }
+    return status;
+}
+
+Status Check(const std::string& package, PackageSummary* summary)
+{
+    std::vector<Entry> entries;
+    int headers = 0;
+    std::string info_data;
+    std::string plist;
+    bool plist_present = false;
+    Status status = ReadEntries(package, &entries, &headers, &info_data, &plist, &plist_present);
+    if (status.ok()) {
+        status = CheckEntries(entries);
+    }
+    std::string ui_entry;
+    if (status.ok()) {
+        status = UiEntryFromPlist(plist, plist_present, &ui_entry);
+    }
+    if (status.ok()) {
+        status = CheckBundleFiles(entries, ui_entry);
+    }
+    PackageSummary found;
+    if (status.ok()) {
+        status = ParseVersionFile(info_data, &found.version);
+    }
+    if (status.ok()) {
+        status = CheckOrder(entries, ui_entry);
+    }
+    if (status.ok() && summary != nullptr) {
+        found.entries = headers;
+        *summary = found;
+    }
+    return status;
+}
+
+} // namespace vpkpack

@@ -1,0 +1,117 @@
+// Internals of vpkpack shared by packing, checking and the platform layer.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "vpkpack.h"
+
+namespace vpkpack {
+
+enum class EntryType { Folder, File, Symlink, Other };
+
+// One entry, whether found on disk or read from a package.
+struct Entry {
+    std::string name; // relative to the bundle root, no "." parts, no trailing "/"
+    EntryType type = EntryType::Other;
+    bool executable = false; // any execute bit
+    bool hard_link = false;  // a tar hard link, or a file with more than one link
+    std::string link_target;
+    int64_t size = 0;
+    std::string source; // Pack only: the path on disk
+};
+
+// Version file and property list are read whole; larger ones are refused.
+constexpr size_t kSmallFileLimit = 1 << 20;
+
+// --- rules (rules.cpp) ---
+
+// Turns a stored entry name into Entry::name form, refusing absolute names
+// and ".." parts. The bundle root itself ("." or "./") becomes "".
+Status NormaliseName(const std::string& stored, std::string* name);
+
+// Hard links, unsupported types, duplicates, entries below a symbolic link
+// and symbolic links that are absolute, leave the bundle or loop.
+Status CheckEntries(const std::vector<Entry>& entries);
+
+// The UI executable's entry name, from the property list's bytes (empty:
+// no property list); refuses a list naming another executable than kUiName.
+Status UiEntryFromPlist(const std::string& plist, bool present, std::string* ui_entry);
+
+// The version file must be a regular file, the UI executable an executable one.
+Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry);
+
+// Entries sorted as a tree walk (byte order, a folder right before its
+// contents), then the UI executable, then the version file.
+void SortForPackage(std::vector<Entry>* entries, const std::string& ui_entry);
+
+// The UI executable second to last and the version file last.
+Status CheckOrder(const std::vector<Entry>& entries, const std::string& ui_entry);
+
+// --- version file (version_file.cpp, Qt) ---
+
+// Reads the [Version] values from an INI text as the launcher reads it.
+Status ParseVersionFile(const std::string& data, VersionInfo* info);
+// An INI text with the [Version] values of info, as QSettings writes it.
+Status FormatVersionFile(const VersionInfo& info, std::string* data);
+// CFBundleExecutable of an XML property list; empty when the key is absent.
+Status ReadBundleExecutable(const std::string& plist, std::string* name);
+
+// --- platform hooks (platform_unix.cpp) ---
+
+namespace platform {
+
+// The one place where an errno becomes a result.
+Status FromErrno(int e, const std::string& entry);
+
+// Every entry below root (root excluded), in no particular order.
+Status ScanTree(const std::string& root, std::vector<Entry>* entries);
+
+// The whole file at path, refused with TooLarge beyond limit bytes.
+Status ReadSmallFile(const std::string& path, const std::string& entry, size_t limit, std::string* data);
+
+// Whether path would lie inside folder once both are resolved.
+Status IsInside(const std::string& folder, const std::string& path, bool* inside);
+
+// A regular file read in chunks; refuses anything that is no longer one.
+class InputFile {
+public:
+    InputFile() = default;
+    ~InputFile();
+    InputFile(const InputFile&) = delete;
+    InputFile& operator=(const InputFile&) = delete;
+
+    Status Open(const std::string& path, const std::string& entry);
+    // *got is 0 at the end of the file.
+    Status Read(char* buffer, size_t size, size_t* got);
+
+private:
+    int fd_ = -1;
+    std::string entry_;
+};
+
+// A temporary file next to its final path, which Commit syncs and renames
+// into place; dropped without Commit it is removed.
+class OutputFile {
+public:
+    OutputFile() = default;
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    Status Create(const std::string& final_path);
+    int fd() const { return fd_; }
+    Status Write(const std::string& data);
+    Status Commit();
+
+private:
+    int fd_ = -1;
+    std::string temp_path_;
+    std::string final_path_;
+};
+
+} // namespace platform
+
+} // namespace vpkpack
