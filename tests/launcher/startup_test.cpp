@@ -1,6 +1,6 @@
 // Start-up of the real launcher binary from an assembled bundle.
+#include <algorithm>
 #include <cstdlib>
-#include <regex>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -64,7 +64,8 @@ TEST_P(StartupLanguage, ChoosesTheCatalogueOfTheUsersLocale)
     const ProcessResult r = testsupport::Run({launcher_}, env);
     ASSERT_TRUE(r.exited && r.exit_code == 0) << r.err;
     EXPECT_NE(r.err.find(std::string("qPrintable(qstrDef)=[") + c.code + "]"), std::string::npos) << r.err;
-    EXPECT_NE(r.err.find(std::string("qPrintable(qstrLangFileName)=[:/") + c.code + ".qm]"), std::string::npos)
+    EXPECT_NE(r.err.find(std::string("qPrintable(qstrLangFileName)=[:/") + c.code + ".qm]"),
+              std::string::npos)
         << r.err;
 }
 
@@ -75,15 +76,6 @@ INSTANTIATE_TEST_SUITE_P(Locales, StartupLanguage,
                          [](const ::testing::TestParamInfo<LanguageCase>& info) {
                              return std::string(info.param.name);
                          });
-
-int CountLines(const std::string& text, const std::regex& pattern)
-{
-    int n = 0;
-    for (const std::string& line : Lines(text)) {
-        n += std::regex_match(line, pattern) ? 1 : 0;
-    }
-    return n;
-}
 
 struct SecondStartCase {
     const char* name;
@@ -101,9 +93,7 @@ TEST_P(SecondStart, ExitsAtOnceAndLeavesTheInstallationAlone)
     if (c.levels != nullptr) {
         SetLevels(c.levels);
     }
-    ASSERT_EQ(setenv("TMPDIR", tmp_.c_str(), 1), 0);
-    ASSERT_EQ(setenv("HOME", home_.c_str(), 1), 0);
-    ASSERT_EQ(unsetenv("XDG_RUNTIME_DIR"), 0);
+    UseFixtureEnvironment();
     SingleInstanceGuard first(QString::fromStdString(launcher_));
     ASSERT_FALSE(first.isRunning()) << "the test could not take the launcher's instance";
 
@@ -111,9 +101,10 @@ TEST_P(SecondStart, ExitsAtOnceAndLeavesTheInstallationAlone)
     ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
     EXPECT_EQ(r.exit_code, 0) << r.err;
     EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
-    const std::regex refusal(
-        R"([A-Z][a-z]{2} [ 0-9]\d \d\d:\d\d:\d\d \[DEBUG\] main\(\d+\): app has already launched, return)");
-    EXPECT_EQ(CountLines(ReadFile(LogPath()), refusal), c.debug_lines) << ReadFile(LogPath());
+    const std::vector<std::string> lines = launchertest::LogLines(ReadFile(LogPath()));
+    EXPECT_EQ(std::count(lines.begin(), lines.end(), "[DEBUG] main(%d): app has already launched, return"),
+              c.debug_lines)
+        << ReadFile(LogPath());
     EXPECT_FALSE(Exists(home_ + "/.Calderix/Calderix.app")) << "a refused start touched the installation";
 }
 
@@ -130,9 +121,7 @@ INSTANTIATE_TEST_SUITE_P(Levels, SecondStart,
 TEST_F(Startup, StartsAgainAfterTheHolderLetGo)
 {
     SetLevels("launcher_debug=7\n");
-    ASSERT_EQ(setenv("TMPDIR", tmp_.c_str(), 1), 0);
-    ASSERT_EQ(setenv("HOME", home_.c_str(), 1), 0);
-    ASSERT_EQ(unsetenv("XDG_RUNTIME_DIR"), 0);
+    UseFixtureEnvironment();
     {
         SingleInstanceGuard first(QString::fromStdString(launcher_));
         ASSERT_FALSE(first.isRunning());

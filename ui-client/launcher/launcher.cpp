@@ -1,5 +1,23 @@
 #include "launcher.h"
 
+#include <cstdint>
+
+#include <QCoreApplication>
+
+#include "log.h"
+#include "mac/mac-service.h"
+#include "progress-dialog.h"
+#include "strtable.h"
+
+static const ustring log_component("launcher_debug");
+
+namespace {
+
+// Label of the dialog once the user's copy is ready.
+const int kReadyTextId = 510;
+
+} // namespace
+
 // A function-local static: its construction is thread-safe, and it has no
 // parent, so it outlives every controller and goes away at process exit.
 Notify_Adapter* Notify_Adapter::GetInstance()
@@ -16,4 +34,160 @@ void Notify_Adapter::UpdateProgress(int total, int current)
 void Notify_Adapter::UpdateDialogText(QString text)
 {
     emit sigUpdateDialogText(text);
+}
+
+void HandlerThread::run()
+{
+    exec();
+}
+
+Worker::Worker() : Worker(new MacService()) {}
+
+// The service exists before the thread, and the worker moves to the thread
+// last, so that its slot runs there once the thread is started.
+Worker::Worker(Service* owned_service) : QObject(nullptr), service(owned_service)
+{
+    handler_thread = new HandlerThread();
+    moveToThread(handler_thread);
+}
+
+// Deleting a running QThread aborts the process, so a worker whose thread
+// was never joined (a controller dropped before its run ended) stops it
+// first.
+Worker::~Worker()
+{
+    if (handler_thread != nullptr && handler_thread->isRunning()) {
+        QuitThread();
+        JoinThread();
+    }
+    delete handler_thread;
+    delete service;
+}
+
+void Worker::StartThread()
+{
+    handler_thread->start(QThread::InheritPriority);
+}
+
+void Worker::QuitThread()
+{
+    handler_thread->quit();
+}
+
+void Worker::JoinThread()
+{
+    handler_thread->wait();
+}
+
+// One whole run on the worker thread: decide, upgrade when needed, then in
+// every case tidy up, launch the user interface and report the end. A
+// failed upgrade is only logged: the user still gets the interface of
+// whatever copy is left.
+void Worker::HandleServicce()
+{
+    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): running\n", __LINE__);
+    service->PreUpgrade();
+    if (service->IsNeedUpgrade()) {
+        emit sigShowMsg();
+        if (service->HandlePackageUpgrade() == 0) {
+            emit sigUpdateProgress(100, 100);
+            emit sigSetLabelText(StrTable::LoadStr(kReadyTextId));
+        } else {
+            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
+                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+        }
+    } else {
+        Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): no need to upgrade\n",
+                       __LINE__);
+    }
+    service->RemoveAgedFolders();
+    service->PostUpgrade();
+    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): done\n", __LINE__);
+    emit sigServiceDone();
+}
+
+Launcher::Launcher() : QObject(nullptr)
+{
+    worker = new Worker();
+    SetUp();
+}
+
+Launcher::Launcher(Service* service) : QObject(nullptr)
+{
+    worker = new Worker(service);
+    SetUp();
+}
+
+// The dialog and the connections, after the worker exists. The worker
+// lives on another thread, so every connection is delivered queued: the
+// slots run here, on the main thread, with copies of the arguments.
+void Launcher::SetUp()
+{
+    dialog = new ProcessingProgressDialog();
+    // No way to cut a run short, and reaching 100 must not hide the dialog
+    // before LaunchDone does.
+    dialog->setCancelButton(nullptr);
+    dialog->setAutoReset(false);
+
+    connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()));
+    connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
+    connect(worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
+    connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
+    connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
+    Notify_Adapter* relay = Notify_Adapter::GetInstance();
+    connect(relay, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
+    connect(relay, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)));
+}
+
+Launcher::~Launcher()
+{
+    delete worker;
+    delete dialog;
+}
+
+void Launcher::Run()
+{
+    worker->StartThread();
+}
+
+void Launcher::Start()
+{
+    emit sigStart();
+}
+
+// Leaves the dialog full and hidden, the worker thread joined and the
+// application's event loop ending with 0.
+void Launcher::LaunchDone()
+{
+    dialog->setValue(100);
+    dialog->hide();
+    worker->QuitThread();
+    worker->JoinThread();
+    QCoreApplication::quit();
+}
+
+// The percentage done, truncated. Nothing in the launcher reports a total
+// below 1; such a report is ignored rather than divided by. The product is
+// formed in 64 bits so that a huge step count cannot overflow, and a
+// percentage outside the bar's range is dropped as the bar would drop it.
+void Launcher::UpdateProgress(int total, int steps)
+{
+    if (total <= 0) {
+        return;
+    }
+    const int64_t value = static_cast<int64_t>(steps) * 100 / total;
+    if (value < 0 || value > 100) {
+        return;
+    }
+    dialog->setValue(static_cast<int>(value));
+}
+
+void Launcher::SetLabelText(const QString& text)
+{
+    dialog->setLabelText(text);
+}
+
+void Launcher::ShowMsgBox()
+{
+    dialog->show();
 }

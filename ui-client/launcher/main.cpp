@@ -1,17 +1,17 @@
 // The launcher's entry point: prepare the process, set up the log, refuse a
 // second instance, install the user's language, then run the event loop
-// until the work is done.
+// until the controller has finished the work.
 #include <clocale>
 #include <cstdio>
 
 #include <QDir>
 #include <QString>
 #include <QStringList>
-#include <QTimer>
 #include <QTranslator>
 
 #include "KorvaneLocale.h"
 #include "calderix-service.h"
+#include "launcher.h"
 #include "log.h"
 #include "qtsingleapplication.h"
 #include "strtable.h"
@@ -49,8 +49,8 @@ int main(int argc, char** argv)
     }
 
     if (app.isRunning()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug", "[DEBUG] main(%d): app has already launched, return\n",
-                       __LINE__);
+        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug",
+                       "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
         return 0;
     }
 
@@ -62,7 +62,16 @@ int main(int argc, char** argv)
     }
     StrTable::InitStrTable();
 
-    // Nothing drives the work yet: the loop ends as soon as it starts.
-    QTimer::singleShot(0, &app, &QCoreApplication::quit);
-    return app.exec();
+    // The start signal is queued to the worker's thread, which Run has
+    // already started, so it waits there until the thread picks it up; the
+    // loop ends when the controller quits the application.
+    Launcher* launcher = new Launcher();
+    launcher->Run();
+    launcher->Start();
+    const int result = app.exec();
+    // The controller has joined its thread by now; deleting it takes the
+    // worker, its service and the dialog with it. The translator and then
+    // the application object go when main returns.
+    delete launcher;
+    return result;
 }
