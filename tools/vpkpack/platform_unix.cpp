@@ -44,14 +44,6 @@ Status FromErrno(int e, const std::string& entry)
 
 namespace {
 
-Status Refuse(Error error, const std::string& entry)
-{
-    Status status;
-    status.error = error;
-    status.entry = entry;
-    return status;
-}
-
 // The target of the link at path, read whole however long it is.
 Status ReadLinkTarget(const std::string& path, const std::string& entry, off_t size_hint, std::string* target)
 {

@@ -46,15 +46,6 @@ std::string ParentOf(const std::string& name)
     return slash == std::string::npos ? std::string() : name.substr(0, slash);
 }
 
-Status Refuse(Error error, const std::string& entry, const std::string& detail = {})
-{
-    Status status;
-    status.error = error;
-    status.entry = entry;
-    status.detail = detail;
-    return status;
-}
-
 enum class Resolution { Inside, Outside, Loop };
 
 // Follows a link's target through the bundle, splicing in the targets of
@@ -121,6 +112,15 @@ const Entry* Find(const std::vector<Entry>& entries, const std::string& name)
 }
 
 } // namespace
+
+Status Refuse(Error error, const std::string& entry, const std::string& detail)
+{
+    Status status;
+    status.error = error;
+    status.entry = entry;
+    status.detail = detail;
+    return status;
+}
 
 Status NormaliseName(const std::string& stored, std::string* name)
 {

@@ -18,15 +18,6 @@ namespace {
 const char* const kVersionKeys[] = {"major_version", "minor_version", "build_version",
                                     "icon_overlay_version"};
 
-Status Refuse(Error error, const std::string& entry, const std::string& detail = {})
-{
-    Status status;
-    status.error = error;
-    status.entry = entry;
-    status.detail = detail;
-    return status;
-}
-
 // QSettings reads only files; a private folder keeps the copy out of reach.
 Status WriteScratch(const QString& path, const std::string& data)
 {

@@ -37,15 +37,6 @@ using Writer = std::unique_ptr<archive, WriterFree>;
 using Reader = std::unique_ptr<archive, ReaderFree>;
 using ArchiveEntry = std::unique_ptr<archive_entry, EntryFree>;
 
-Status Refuse(Error error, const std::string& entry, const std::string& detail = {})
-{
-    Status status;
-    status.error = error;
-    status.entry = entry;
-    status.detail = detail;
-    return status;
-}
-
 Status ArchiveFailure(archive* a, const std::string& entry)
 {
     const char* text = archive_error_string(a);

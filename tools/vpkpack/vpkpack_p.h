@@ -10,6 +10,9 @@
 
 namespace vpkpack {
 
+// A failed Status for entry, with the system's or libarchive's text.
+Status Refuse(Error error, const std::string& entry, const std::string& detail = {});
+
 enum class EntryType { Folder, File, Symlink, Other };
 
 // One entry, whether found on disk or read from a package.
