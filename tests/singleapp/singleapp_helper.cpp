@@ -1,20 +1,18 @@
-// Stand-in for the launcher in the single-instance tests. It prints one word
-// for the outcome of the instance check: "running" (exits 0 at once) or
-// "first" (keeps the instance until its standard input reaches end of file).
+// Stand-in for the launcher in the single-instance tests. Prints "running"
+// and exits 0, or prints "first" and keeps the instance until nobody reads
+// its standard output any more.
 //
-//   singleapp_helper [--barrier FIFO] [--spawn-child]
-//     --barrier FIFO   print "ready", then wait until the FIFO is opened for
-//                      writing before checking, so many starts check at once
-//     --spawn-child    as the winner, start "singleapp_helper --linger" and
-//                      print "child <pid>"
-//   singleapp_helper --linger
-//     print "lingering" and wait for end of file on standard input
+//   singleapp_helper [--barrier FIFO | --spawn-child | --linger]
+//     --barrier FIFO  print "ready" and check only once the FIFO is opened for writing
+//     --spawn-child   as the winner, fork and exec "--linger" and print "child <pid>"
+//     --linger        print "lingering" and wait like a winner
 #include "qtsingleapplication.h"
 
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
+#include <poll.h>
 #include <string>
 #include <unistd.h>
 
@@ -26,46 +24,13 @@ void say(const char* line)
     std::fflush(stdout);
 }
 
-void waitForEndOfInput()
+// A pipe's write end reports POLLERR once its last reader has closed.
+int waitForReaderToLeave()
 {
-    char buf[256];
-    for (;;) {
-        const ssize_t n = ::read(STDIN_FILENO, buf, sizeof buf);
-        if (n == 0 || (n < 0 && errno != EINTR))
-            return;
+    pollfd out{STDOUT_FILENO, 0, 0};
+    while (::poll(&out, 1, -1) < 0 && errno == EINTR) {
     }
-}
-
-// Returns once somebody opens `fifo` for writing; false when it cannot be opened.
-bool passBarrier(const char* fifo)
-{
-    int fd;
-    do {
-        fd = ::open(fifo, O_RDONLY | O_CLOEXEC);
-    } while (fd < 0 && errno == EINTR);
-    if (fd < 0) {
-        std::fprintf(stderr, "singleapp_helper: %s: %s\n", fifo, std::strerror(errno));
-        return false;
-    }
-    ::close(fd);
-    return true;
-}
-
-// Starts this program again with --linger the way a launcher starts another
-// program: fork and exec, nothing closed by hand. Returns its pid, or -1.
-pid_t spawnLingeringChild()
-{
-    const std::string self = QCoreApplication::applicationFilePath().toStdString();
-    char linger[] = "--linger";
-    char* const argv[] = {const_cast<char*>(self.c_str()), linger, nullptr};
-    const pid_t pid = ::fork();
-    if (pid == 0) {
-        ::execv(argv[0], argv);
-        ::_exit(127);
-    }
-    if (pid < 0)
-        std::fprintf(stderr, "singleapp_helper: fork: %s\n", std::strerror(errno));
-    return pid;
+    return 0;
 }
 
 } // namespace
@@ -74,45 +39,33 @@ int main(int argc, char** argv)
 {
     if (argc == 2 && std::strcmp(argv[1], "--linger") == 0) {
         say("lingering");
-        waitForEndOfInput();
-        return 0;
+        return waitForReaderToLeave();
     }
-    const char* barrier = nullptr;
-    bool spawnChild = false;
-    for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "--barrier") == 0 && i + 1 < argc) {
-            barrier = argv[++i];
-        } else if (std::strcmp(argv[i], "--spawn-child") == 0) {
-            spawnChild = true;
-        } else {
-            std::fprintf(stderr, "singleapp_helper: unknown argument '%s'\n", argv[i]);
-            return 2;
-        }
-    }
+    const char* barrier = argc == 3 && std::strcmp(argv[1], "--barrier") == 0 ? argv[2] : nullptr;
+    const bool spawnChild = argc == 2 && std::strcmp(argv[1], "--spawn-child") == 0;
+    if (argc > 1 && !barrier && !spawnChild)
+        return 2;
 
     QtSingleApplication app(argc, argv, true);
     if (barrier) {
         say("ready");
-        if (!passBarrier(barrier))
-            return 2;
+        ::close(::open(barrier, O_RDONLY | O_CLOEXEC));
     }
     const bool running = app.isRunning();
-    if (app.isRunning() != running) {
-        say("unstable");
-        return 3;
-    }
-    if (running) {
-        say("running");
+    if (app.isRunning() != running)
+        return 3; // the answer must not change
+    say(running ? "running" : "first");
+    if (running)
         return 0;
-    }
-    say("first");
     if (spawnChild) {
-        const pid_t child = spawnLingeringChild();
-        if (child < 0)
-            return 2;
-        std::printf("child %d\n", static_cast<int>(child));
-        std::fflush(stdout);
+        // Started the way a launcher starts a program: nothing closed by hand.
+        const std::string self = QCoreApplication::applicationFilePath().toStdString();
+        const pid_t child = ::fork();
+        if (child == 0) {
+            ::execl(self.c_str(), self.c_str(), "--linger", static_cast<char*>(nullptr));
+            ::_exit(127);
+        }
+        say(("child " + std::to_string(child)).c_str());
     }
-    waitForEndOfInput();
-    return 0;
+    return waitForReaderToLeave();
 }
