@@ -3,7 +3,6 @@
 #pragma once
 
 #include <ctime>
-#include <iosfwd>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -14,8 +13,8 @@ enum class ArchiveFormat { Tar, TarGz, Zip };
 
 // gtest row name of a format: "tar", "tar_gz", "zip".
 std::string FormatName(ArchiveFormat format);
-void PrintTo(ArchiveFormat format, std::ostream* os);
 
+// A file, or a folder when folder is set: {"a/", "", true, 0755}.
 struct ArchiveItem {
     std::string path;
     std::string data;
@@ -25,15 +24,9 @@ struct ArchiveItem {
     uid_t uid = 0;
 };
 
-ArchiveItem FileItem(const std::string& path, const std::string& data);
-ArchiveItem FolderItem(const std::string& path);
-
 // Writes items, in order, as an archive of the given format at path.
 ::testing::AssertionResult WriteArchive(const std::string& path, ArchiveFormat format,
                                         const std::vector<ArchiveItem>& items);
-
-// Cuts the file at path down to size bytes.
-::testing::AssertionResult TruncateFile(const std::string& path, off_t size);
 
 // size bytes that no compressor shrinks, the same for the same seed.
 std::string NoiseBytes(size_t size, unsigned seed);

@@ -1,37 +1,23 @@
 // The Linux canonical path: stored spellings, and listings only where needed.
-#include <cerrno>
-#include <cstring>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <gtest/gtest.h>
-
 #include "canonical_path_linux.h"
 #include "file_test_support.h"
 
-using filetest::MakeDir;
-using filetest::MakeLink;
-using filetest::WriteFile;
-using platform::NameCase;
-
 namespace {
 
-using filetest::operator<<;
+using namespace filetest;
+using platform::FinalLink;
+using platform::NameCase;
 
-class ResolverTest : public ::testing::Test {
+// sub/{Data, note, NOTE, "Ärger" stored decomposed}, loop -> loop.
+class ResolverTest : public FileTest {
 protected:
     void SetUp() override
     {
-        scratch_.reset(new filetest::ScratchDir("/tmp"));
-        ASSERT_TRUE(scratch_->ok()) << scratch_->error();
-        // "Data" and "\xC3\x84rger" ("Ärger"), the latter stored decomposed.
-        ASSERT_EQ("", MakeDir(Path("sub")));
-        ASSERT_EQ("", WriteFile(Path("sub/Data"), "d"));
-        ASSERT_EQ("", WriteFile(Path("sub/A\xCC\x88rger"), "a"));
+        FileTest::SetUp();
+        ASSERT_TRUE(MakeDirs(P("sub")) && WriteFile(P("sub/Data"), "d") && WriteFile(P("sub/note"), "n") &&
+                    WriteFile(P("sub/NOTE"), "N") && WriteFile(P("sub/A\xCC\x88rger"), "a") &&
+                    MakeLink("loop", P("loop")));
     }
-    std::string Path(const std::string& relative) const { return (*scratch_)[relative]; }
-
-    std::unique_ptr<filetest::ScratchDir> scratch_;
 };
 
 struct SpellingCase {
@@ -46,13 +32,10 @@ class StoredNameTest : public ResolverTest, public ::testing::WithParamInterface
 
 TEST_P(StoredNameTest, FindsTheSpellingOnDisk)
 {
-    if (GetParam().name == std::string("ExactWinsOverFolded")) {
-        ASSERT_EQ("", WriteFile(Path("sub/data"), "lower"));
-    }
+    const SpellingCase& row = GetParam();
     std::string stored = "untouched";
-    EXPECT_EQ(GetParam().error, platform::StoredName(Path("sub"), GetParam().given, GetParam().rule, stored))
-        << strerror(GetParam().error);
-    EXPECT_EQ(GetParam().error == 0 ? GetParam().stored : "untouched", stored);
+    EXPECT_EQ(row.error, platform::StoredName(P("sub"), row.given, row.rule, stored)) << strerror(row.error);
+    EXPECT_EQ(row.error == 0 ? row.stored : "untouched", stored);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -60,31 +43,31 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         SpellingCase{"Exact", "Data", NameCase::Sensitive, 0, "Data"},
         SpellingCase{"OtherCaseSensitive", "data", NameCase::Sensitive, ENOENT, ""},
+        SpellingCase{"OtherCaseDetectedSensitive", "data", NameCase::Detect, ENOENT, ""},
         SpellingCase{"OtherCaseInsensitive", "dATA", NameCase::Insensitive, 0, "Data"},
-        SpellingCase{"ExactWinsOverFolded", "data", NameCase::Insensitive, 0, "data"},
+        SpellingCase{"ExactWinsOverFolded", "note", NameCase::Insensitive, 0, "note"},
+        SpellingCase{"SmallestOfFolded", "Note", NameCase::Insensitive, 0, "NOTE"},
         SpellingCase{"ComposedFindsDecomposed", "\xC3\x84rger", NameCase::Sensitive, 0, "A\xCC\x88rger"},
         SpellingCase{"NonAsciiCaseFolded", "\xC3\xA4RGER", NameCase::Insensitive, 0, "A\xCC\x88rger"},
-        SpellingCase{"NonAsciiOtherCaseSensitive", "\xC3\xA4rger", NameCase::Detect, ENOENT, ""},
         SpellingCase{"Missing", "none", NameCase::Insensitive, ENOENT, ""}),
-    [](const ::testing::TestParamInfo<SpellingCase>& row) { return std::string(row.param.name); });
+    RowName());
 
 TEST_F(ResolverTest, InsensitiveRuleRespellsEveryComponent)
 {
-    ASSERT_EQ("", MakeLink("sub", Path("Link")));
+    ASSERT_TRUE(MakeLink("sub", P("Link")));
     std::string out;
-    ASSERT_EQ(
-        0, platform::ResolvePath(Path("LINK/DATA"), platform::FinalLink::Keep, NameCase::Insensitive, out));
-    EXPECT_EQ(Path("sub/Data"), out);
-    ASSERT_EQ(0, platform::ResolvePath(Path("link"), platform::FinalLink::Keep, NameCase::Insensitive, out));
-    EXPECT_EQ(Path("Link"), out);
-    EXPECT_EQ(NameCase::Sensitive, platform::FolderNameCase(Path("sub")))
+    ASSERT_EQ(0, platform::ResolvePath(P("LINK/DATA"), FinalLink::Keep, NameCase::Insensitive, out));
+    EXPECT_EQ(P("sub/Data"), out);
+    ASSERT_EQ(0, platform::ResolvePath(P("link"), FinalLink::Keep, NameCase::Insensitive, out));
+    EXPECT_EQ(P("Link"), out);
+    EXPECT_EQ(NameCase::Sensitive, platform::FolderNameCase(P("sub")))
         << "ordinary folder taken as casefolded";
 }
 
 struct ErrorCase {
     const char* name;
     std::string path;
-    platform::FinalLink final_link;
+    FinalLink final_link;
     int error;
 };
 
@@ -92,33 +75,31 @@ class ResolveErrorTest : public ResolverTest, public ::testing::WithParamInterfa
 
 TEST_P(ResolveErrorTest, FailsLikeTheKernelWould)
 {
-    ASSERT_EQ("", MakeLink("loop", Path("loop")));
     std::string out = "untouched";
-    EXPECT_EQ(GetParam().error, platform::CanonicalPath(Path(GetParam().path), GetParam().final_link, out))
+    EXPECT_EQ(GetParam().error, platform::CanonicalPath(P(GetParam().path), GetParam().final_link, out))
         << "got " << out;
     if (GetParam().error != 0) {
-        EXPECT_EQ("untouched", out);
+        EXPECT_EQ("untouched", out) << "changed on failure";
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Paths, ResolveErrorTest,
-    ::testing::Values(ErrorCase{"MissingMiddle", "none/Data", platform::FinalLink::Keep, ENOENT},
-                      ErrorCase{"FileAsFolder", "sub/Data/x", platform::FinalLink::Keep, ENOTDIR},
-                      ErrorCase{"FileWithFinalSlash", "sub/Data/", platform::FinalLink::Keep, ENOTDIR},
-                      ErrorCase{"LoopFollowed", "loop", platform::FinalLink::Follow, ELOOP},
-                      ErrorCase{"LoopKept", "loop", platform::FinalLink::Keep, 0}),
-    [](const ::testing::TestParamInfo<ErrorCase>& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Paths, ResolveErrorTest,
+                         ::testing::Values(ErrorCase{"MissingMiddle", "none/Data", FinalLink::Keep, ENOENT},
+                                           ErrorCase{"FileAsFolder", "sub/Data/x", FinalLink::Keep, ENOTDIR},
+                                           ErrorCase{"FileWithFinalSlash", "sub/Data/", FinalLink::Keep,
+                                                     ENOTDIR},
+                                           ErrorCase{"LoopFollowed", "loop", FinalLink::Follow, ELOOP},
+                                           ErrorCase{"LoopKept", "loop", FinalLink::Keep, 0}),
+                         RowName());
 
 // In a folder nobody may pass but not list, the look-up must not list it.
 TEST_F(ResolverTest, CaseSensitiveFolderIsNeverListed)
 {
-    ASSERT_EQ(0, chmod(Path("sub").c_str(), 0711)) << strerror(errno);
-    const std::string path = Path("sub/Data");
-    const int failed = filetest::RunAsNobody([&] {
+    ASSERT_EQ(0, chmod(P("sub").c_str(), 0711)) << strerror(errno);
+    const int failed = RunAsNobody([&] {
         std::string out;
-        const int detected = platform::CanonicalPath(path, platform::FinalLink::Keep, out);
-        const int listed = platform::ResolvePath(path, platform::FinalLink::Keep, NameCase::Insensitive, out);
+        const int detected = platform::CanonicalPath(P("sub/Data"), FinalLink::Keep, out);
+        const int listed = platform::ResolvePath(P("sub/Data"), FinalLink::Keep, NameCase::Insensitive, out);
         return (detected == 0 ? 0 : 1) | (listed == EACCES ? 0 : 2);
     });
     EXPECT_EQ(0, failed) << "1: exact look-up listed the folder; 2: the listing was not refused";

@@ -1,71 +1,89 @@
-// Fixtures shared by the file library's tests: scratch folders, files,
-// a child process without root, and the log of the file module.
+// What only the file library's tests need beyond the shared test helpers.
 #pragma once
 
+#include <climits>
+#include <cstring>
 #include <functional>
-#include <memory>
-#include <ostream>
-#include <string>
+#include <grp.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 
 #include <gtest/gtest.h>
 
+#include "log.h"
+#include "test_support.h"
+
 namespace filetest {
 
-// A fresh folder made by mkdtemp below base, named by its real path, and
-// removed with everything below it (locked folders included) at the end.
-class ScratchDir {
-public:
-    explicit ScratchDir(const std::string& base);
-    ~ScratchDir();
-    ScratchDir(const ScratchDir&) = delete;
-    ScratchDir& operator=(const ScratchDir&) = delete;
+using namespace testsupport;
 
-    bool ok() const { return error_.empty(); }
-    const std::string& error() const { return error_; }
-    const std::string& path() const { return path_; }
-    std::string operator[](const std::string& relative) const { return path_ + "/" + relative; }
-
-private:
-    std::string path_;
-    std::string error_;
+// Names a table's cases by their rows' name field.
+struct RowName {
+    template <typename P> std::string operator()(const ::testing::TestParamInfo<P>& info) const
+    {
+        return info.param.name;
+    }
 };
 
-// Table rows (structs with a name) print as their name when a case fails.
-template <typename Row> auto operator<<(std::ostream& os, const Row& row) -> decltype(row.name, os)
+inline bool MakeLink(const std::string& target, const std::string& link)
 {
-    return os << row.name;
+    return symlink(target.c_str(), link.c_str()) == 0;
 }
 
-// Each returns an empty string, or what went wrong with errno's text.
-std::string WriteFile(const std::string& path, const std::string& content);
-std::string MakeDir(const std::string& path, unsigned mode = 0755);
-std::string MakeLink(const std::string& target, const std::string& link);
+// Runs body in a child that gave up root for nobody; its exit status, or -1
+// after failing the test when the child could not drop root or died.
+inline int RunAsNobody(const std::function<int()>& body)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0)
+            _exit(250);
+        _exit(body() & 0xff);
+    }
+    const int status = child < 0 ? -1 : testsupport::Wait(child);
+    if (status == -1 || !WIFEXITED(status) || WEXITSTATUS(status) == 250) {
+        ADD_FAILURE() << "child as nobody failed to start, drop root or exit (status " << status << ")";
+        return -1;
+    }
+    return WEXITSTATUS(status);
+}
 
-// The file's bytes; "<unreadable>" when it cannot be read.
-std::string ReadFile(const std::string& path);
-bool Exists(const std::string& path);
-
-// Runs body in a child that has given up root for nobody (uid and gid
-// 65534) and returns the child's exit status. A child that could not give up
-// root, or died, makes this fail the running test and return -1.
-int RunAsNobody(const std::function<int()>& body);
-
-// Tests of the file module: a scratch folder with a fake HOME, and the
-// module's log (component file_op_debug at level 7) in a file of its own.
-class FileOpTest : public ::testing::Test {
+// A fresh folder, named by its real path (canonical paths are compared with
+// it) and open to children run as nobody; the file module logs into it.
+class FileTest : public ::testing::Test {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    void SetUp() override
+    {
+        char real[PATH_MAX];
+        ASSERT_NE(nullptr, realpath(tmp_.path().c_str(), real)) << tmp_.path() << ": " << strerror(errno);
+        root_ = real;
+        ASSERT_EQ(0, chmod(root_.c_str(), 0755)) << strerror(errno);
+        ASSERT_TRUE(WriteFile(P("levels"), "file_op_debug=7\n")) << strerror(errno);
+        ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, P("test.log").c_str(), P("levels").c_str(), 50));
+    }
+    void TearDown() override { Logger::Destroy(); }
 
-    std::string operator[](const std::string& relative) const { return (*scratch_)[relative]; }
-    const std::string& Root() const { return scratch_->path(); }
-    // Whether the log holds the line tag + " file-op(<line>): " + message.
-    ::testing::AssertionResult Logged(const std::string& tag, const std::string& message) const;
+    std::string P(const std::string& relative) const { return root_ + "/" + relative; }
 
-private:
-    std::unique_ptr<ScratchDir> scratch_;
-    std::string old_home_;
-    bool had_home_ = false;
+    // Whether the log holds a line "<time> " + tag + " file-op(<line>): " + message.
+    ::testing::AssertionResult Logged(const std::string& tag, const std::string& message) const
+    {
+        const std::string log = ReadFile(P("test.log")), head = tag + " file-op(";
+        for (const std::string& line : testsupport::Lines(log)) {
+            const size_t digits =
+                line.find(head) == std::string::npos ? line.size() : line.find(head) + head.size();
+            const size_t close = line.find_first_not_of("0123456789", digits);
+            if (close != digits && close != std::string::npos &&
+                line.compare(close, std::string::npos, "): " + message) == 0)
+                return ::testing::AssertionSuccess();
+        }
+        return ::testing::AssertionFailure()
+               << "no log line \"" << tag << " file-op(N): " << message << "\" in:\n"
+               << log;
+    }
+
+    testsupport::TempDir tmp_{"calderix-file"};
+    std::string root_;
 };
 
 } // namespace filetest
