@@ -1,8 +1,7 @@
-/* Linked into the service driver in place of the C library's kill and
- * sleep: each call is still made, and also written as a line to the file
- * named by SERVICE_TRACE_FILE, so that the tests can see which signals the
- * stop sequence sent and how often it waited. A trace that cannot be
- * written ends the driver, so that a test never reads a short trace. */
+// Linked into the service driver in place of the C library's kill and
+// sleep: each call is still made, and also written as a line to the file
+// named by SERVICE_TRACE_FILE. A trace that cannot be written ends the
+// driver, so that a test never reads a short trace.
 #define _GNU_SOURCE
 #include <errno.h>
 #include <fcntl.h>
@@ -10,35 +9,26 @@
 #include <stdarg.h>
 #include <stdio.h>
 #include <stdlib.h>
-#include <string.h>
 #include <sys/syscall.h>
 #include <time.h>
 #include <unistd.h>
 
-static void trace(const char* fmt, ...) __attribute__((format(printf, 1, 2)));
-
-static void trace(const char* fmt, ...)
+__attribute__((format(printf, 1, 2))) static void trace(const char* fmt, ...)
 {
     static int fd = -2;
     if (fd == -2) {
         const char* path = getenv("SERVICE_TRACE_FILE");
         fd = path != NULL ? open(path, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644) : -1;
         if (path != NULL && fd < 0) {
-            fprintf(stderr, "kill_trace: %s: %s\n", path, strerror(errno));
             abort();
         }
     }
-    if (fd < 0) {
-        return;
-    }
     va_list ap;
     va_start(ap, fmt);
-    const int n = vdprintf(fd, fmt, ap);
-    va_end(ap);
-    if (n < 0) {
-        fprintf(stderr, "kill_trace: write: %s\n", strerror(errno));
+    if (fd >= 0 && vdprintf(fd, fmt, ap) < 0) {
         abort();
     }
+    va_end(ap);
 }
 
 int kill(pid_t pid, int sig)

@@ -4,9 +4,9 @@
 #pragma once
 
 #include <map>
-#include <ostream>
 #include <string>
 #include <sys/types.h>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -15,11 +15,13 @@
 
 namespace servicetest {
 
-enum class PackageFormat { Tar, TarGz, Zip };
+// The test name of a table row: its name.
+template <typename Case> std::string RowName(const ::testing::TestParamInfo<Case>& info)
+{
+    return info.param.name;
+}
 
-// gtest row name of a format: "tar", "tar_gz", "zip".
-std::string FormatName(PackageFormat format);
-void PrintTo(PackageFormat format, std::ostream* os);
+enum class PackageFormat { Tar, TarGz, Zip };
 
 struct PackageEntry {
     std::string path; // relative, folders without a trailing "/"
@@ -33,8 +35,6 @@ PackageEntry FolderEntry(const std::string& path);
 // Writes entries, in order, as an archive of the given format at path.
 ::testing::AssertionResult WritePackage(const std::string& path, PackageFormat format,
                                         const std::vector<PackageEntry>& entries);
-// Cuts the file at path down to size bytes.
-::testing::AssertionResult TruncateFile(const std::string& path, off_t size);
 // size bytes that no compressor shrinks.
 std::string NoiseBytes(size_t size);
 
@@ -48,8 +48,10 @@ Tree TreeOf(const std::vector<PackageEntry>& entries);
 
 // The log's lines from the service's sources ("calderix-service",
 // "mac/mac-service") without their timestamps and with the source line
-// numbers shown as "%d", as in the formats.
-std::vector<std::string> ServiceLines(const std::string& log_text);
+// numbers shown as "%d", as in the formats; each path of names, in order,
+// is shown as its name.
+std::vector<std::string> ServiceLines(const std::string& log_text,
+                                      const std::vector<std::pair<std::string, std::string>>& names = {});
 
 // Waits, up to a generous bound, for path to hold a "pid=<n>" line and
 // returns n, or -1.
@@ -58,12 +60,10 @@ pid_t WaitForPidFile(const std::string& path);
 std::string ValueOf(const std::string& text, const std::string& key);
 // Processes (zombies excluded) that run the file at exe.
 std::vector<pid_t> ProcessesRunning(const std::string& exe);
-// Sends SIGKILL to every process that runs exe.
 void KillAllRunning(const std::string& exe);
 
 // Starts argv[0] as uid/gid (through setpriv, which execs it in place, so
-// the pid is the program's) with the test's environment plus changes;
-// returns its pid or -1.
+// the pid is the program's) with the test's environment plus changes.
 pid_t StartAs(uid_t uid, gid_t gid, const std::vector<std::string>& argv,
               const std::vector<testsupport::EnvChange>& env);
 
