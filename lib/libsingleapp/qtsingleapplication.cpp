@@ -96,7 +96,8 @@ SingleInstanceGuard::State SingleInstanceGuard::claim()
     // Every place is missing or controlled by somebody else. Refusing to
     // start would let another user keep this user's program from running at
     // all, so this process runs without the guard instead.
-    qWarning("QtSingleApplication: no private folder for the instance lock; a second instance is not refused");
+    qWarning(
+        "QtSingleApplication: no private folder for the instance lock; a second instance is not refused");
     return State::Unguarded;
 }
 

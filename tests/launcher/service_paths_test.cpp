@@ -69,14 +69,14 @@ TEST_P(ServiceUserPaths, ComposedFromHome)
 // The user paths are joined, not normalised: a home of "/" keeps its slash.
 INSTANTIATE_TEST_SUITE_P(
     Homes, ServiceUserPaths,
-    ::testing::Values(
-        HomeCase{"Plain", "/Users/user1", "/Users/user1/.Calderix", "/Users/user1/.Calderix/Calderix.app",
-                 "/Users/user1/.Calderix/data"},
-        HomeCase{"TrailingSlash", "/Users/user1/", "/Users/user1/.Calderix", "/Users/user1/.Calderix/Calderix.app",
-                 "/Users/user1/.Calderix/data"},
-        HomeCase{"Root", "/", "//.Calderix", "//.Calderix/Calderix.app", "//.Calderix/data"},
-        HomeCase{"SpaceAndAccent", "/home/Zo\xc3\xab Smith", "/home/Zo\xc3\xab Smith/.Calderix",
-                 "/home/Zo\xc3\xab Smith/.Calderix/Calderix.app", "/home/Zo\xc3\xab Smith/.Calderix/data"}),
+    ::testing::Values(HomeCase{"Plain", "/Users/user1", "/Users/user1/.Calderix",
+                               "/Users/user1/.Calderix/Calderix.app", "/Users/user1/.Calderix/data"},
+                      HomeCase{"TrailingSlash", "/Users/user1/", "/Users/user1/.Calderix",
+                               "/Users/user1/.Calderix/Calderix.app", "/Users/user1/.Calderix/data"},
+                      HomeCase{"Root", "/", "//.Calderix", "//.Calderix/Calderix.app", "//.Calderix/data"},
+                      HomeCase{"SpaceAndAccent", "/home/Zo\xc3\xab Smith", "/home/Zo\xc3\xab Smith/.Calderix",
+                               "/home/Zo\xc3\xab Smith/.Calderix/Calderix.app",
+                               "/home/Zo\xc3\xab Smith/.Calderix/data"}),
     [](const ::testing::TestParamInfo<HomeCase>& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -208,7 +208,8 @@ std::vector<char*> Pointers(std::vector<std::string>& strings)
 }
 
 // In the child: wires fds 0-2 and execs; never returns.
-[[noreturn]] void ExecChild(std::vector<std::string> argv, std::vector<std::string> env, int out_fd, int err_fd)
+[[noreturn]] void ExecChild(std::vector<std::string> argv, std::vector<std::string> env, int out_fd,
+                            int err_fd)
 {
     const int null_fd = open("/dev/null", O_RDWR);
     dup2(null_fd, 0);
@@ -281,8 +282,8 @@ ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvCha
     return result;
 }
 
-pid_t Start(const std::vector<std::string>& argv, const std::vector<EnvChange>& env, const std::string& out_file,
-            const std::string& err_file)
+pid_t Start(const std::vector<std::string>& argv, const std::vector<EnvChange>& env,
+            const std::string& out_file, const std::string& err_file)
 {
     std::vector<std::string> envs = BuildEnv(env);
     const int out_fd =

@@ -46,11 +46,11 @@ EnvChange Set(const std::string& name, const std::string& value);
 EnvChange Unset(const std::string& name);
 
 struct ProcessResult {
-    bool exited = false;   // ended by exit() rather than a signal
-    int exit_code = -1;    // valid when exited
-    int term_signal = 0;   // valid when !exited
-    std::string out;       // standard output
-    std::string err;       // standard error
+    bool exited = false; // ended by exit() rather than a signal
+    int exit_code = -1;  // valid when exited
+    int term_signal = 0; // valid when !exited
+    std::string out;     // standard output
+    std::string err;     // standard error
 };
 
 // Runs argv[0] with the given environment changes, waits for it and returns
