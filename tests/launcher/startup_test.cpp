@@ -42,6 +42,14 @@ TEST_F(Startup, HomeThatCannotHoldTheLogFolderStillStarts)
     EXPECT_EQ(r.exit_code, 0) << r.err;
     EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
     EXPECT_EQ(ReadFile(blocker), "x") << "the regular file in the way was changed";
+    // The run goes on and its errors reach standard error at the default
+    // levels; nothing reads a level file, so no debug line gets through.
+    for (const char* error : {"[ERROR] calderix-service(", "): failed to create folder: '",
+                              "[ERROR] launcher(", "): Failed to upgrade package\n",
+                              "[ERROR] mac/mac-service(", "): Failed to launch Calderix UI\n"}) {
+        EXPECT_NE(r.err.find(error), std::string::npos) << "missing \"" << error << "\" in:\n" << r.err;
+    }
+    EXPECT_EQ(r.err.find("[DEBUG]"), std::string::npos) << r.err;
 }
 
 struct LanguageCase {
