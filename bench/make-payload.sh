@@ -43,20 +43,7 @@ done
 # The translations come from a Debian package that a build machine does not
 # otherwise need.
 needed=(qttranslations5-l10n adwaita-icon-theme hicolor-icon-theme libicu72)
-missing=()
-for p in "${needed[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
-    missing+=("$p")
-  fi
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "make-payload: installing ${missing[*]}"
-  sudo=""
-  if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-  export DEBIAN_FRONTEND=noninteractive
-  $sudo apt-get update -qq
-  $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
-fi
+"$(dirname "$0")/../scripts/install-deps.sh" "${needed[@]}"
 
 lib=/usr/lib/x86_64-linux-gnu
 rm -rf "$out"

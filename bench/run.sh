@@ -41,20 +41,7 @@ build=$(cd "$1" && pwd)
 
 # /usr/bin/time for peak RSS, bsdtar for the extraction floor.
 needed=(time libarchive-tools)
-missing=()
-for p in "${needed[@]}"; do
-  if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q 'install ok installed'; then
-    missing+=("$p")
-  fi
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "run.sh: installing ${missing[*]}"
-  sudo=""
-  if [ "$(id -u)" -ne 0 ]; then sudo="sudo"; fi
-  export DEBIAN_FRONTEND=noninteractive
-  $sudo apt-get update -qq
-  $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
-fi
+"$repo/scripts/install-deps.sh" "${needed[@]}"
 
 demo="$build/demo/Calderix Drive.app"
 bare_exe=$build/bench/bench_bare_app

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
-# Installs the Debian 12 packages the launcher needs to build, test and run.
+# Installs the Debian 12 packages the launcher needs to build, test and run,
+# or, given package names, just those (the benchmark scripts' extras).
 # Idempotent: it asks apt only for what is missing, and refreshes the
 # package lists only when something has to be installed.
 set -euo pipefail
 
-packages=(
+default_packages=(
   cmake ninja-build g++ pkg-config
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
   libqt5svg5
@@ -14,6 +15,11 @@ packages=(
   clang libclang-rt-14-dev
   fonts-dejavu-core
 )
+if [ $# -gt 0 ]; then
+  packages=("$@")
+else
+  packages=("${default_packages[@]}")
+fi
 
 missing=()
 for p in "${packages[@]}"; do
