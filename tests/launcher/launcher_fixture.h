@@ -108,6 +108,11 @@ protected:
         tmp_ = root_ + "/tmp";
         ASSERT_TRUE(testsupport::MakeDirs(home_)) << home_ << ": " << strerror(errno);
         ASSERT_TRUE(testsupport::MakeDirs(tmp_)) << tmp_ << ": " << strerror(errno);
+        install_ = home_ + "/.Calderix";
+        app_ = install_ + "/Calderix.app";
+        ui_ = app_ + "/Contents/MacOS/calderix-drive-ui";
+        package_ = bundle_ + "/Contents/Resources/package/calderix.vpk";
+        ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/Contents/Resources/package")) << strerror(errno);
     }
 
     void TearDown() override
@@ -147,11 +152,64 @@ protected:
 
     testsupport::ProcessResult RunLauncher() const { return testsupport::Run({launcher_}, Env(home_)); }
 
+    void ExpectCleanExit(const testsupport::ProcessResult& r) const
+    {
+        ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
+        EXPECT_EQ(r.exit_code, 0) << r.err;
+        EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
+    }
+
+    // The pid in ui.pid once it names a process other than not_pid; -1
+    // when no user interface announces itself within a generous bound.
+    pid_t WaitForUi(pid_t not_pid = 0) const
+    {
+        for (int i = 0; i < 6000; ++i) {
+            const std::string text = testsupport::ReadFile(install_ + "/ui.pid");
+            const pid_t pid = text.rfind("pid=", 0) == 0 ? static_cast<pid_t>(atol(text.c_str() + 4)) : 0;
+            if (pid > 0 && pid != not_pid) {
+                return pid;
+            }
+            usleep(10000);
+        }
+        return -1;
+    }
+
+    // The processes that run the user's installed user interface.
+    std::vector<pid_t> UiProcesses() const
+    {
+        std::vector<pid_t> pids;
+        for (const auto& process : launchertest::ProcessesBelow(root_)) {
+            if (process.second == ui_) {
+                pids.push_back(process.first);
+            }
+        }
+        return pids;
+    }
+
+    // Backups of the user's bundle that are still around.
+    std::vector<std::string> Backups() const
+    {
+        std::vector<std::string> names;
+        if (DIR* dir = opendir(install_.c_str())) {
+            while (const struct dirent* e = readdir(dir)) {
+                if (strncmp(e->d_name, "Calderix.app_tmp", 16) == 0) {
+                    names.push_back(e->d_name);
+                }
+            }
+            closedir(dir);
+        }
+        return names;
+    }
+
     testsupport::TempDir dir_{"calderix-launcher"};
     std::string root_; // dir_ with every link resolved, as /proc shows it
     std::string bundle_;
     std::string launcher_;
     std::string home_;
     std::string tmp_;
+    std::string install_; // ~/.Calderix
+    std::string app_;     // the user's bundle
+    std::string ui_;      // its user-interface executable
+    std::string package_; // the launcher bundle's package
     launchertest::ScopedEnv env_;
 };

@@ -104,11 +104,6 @@ protected:
         if (HasFatalFailure()) {
             return;
         }
-        install_ = home_ + "/.Calderix";
-        app_ = install_ + "/Calderix.app";
-        ui_ = app_ + "/Contents/MacOS/calderix-drive-ui";
-        package_ = bundle_ + "/Contents/Resources/package/calderix.vpk";
-        ASSERT_TRUE(MakeDirs(bundle_ + "/Contents/Resources/package")) << strerror(errno);
     }
 
     // A client bundle of build as a folder: the demo UI, the Info.plist
@@ -154,33 +149,6 @@ protected:
         ASSERT_TRUE(CopyTree(ClientBundle(build), app_)) << app_ << ": " << strerror(errno);
     }
 
-    // The pid in ui.pid once it names a process other than not_pid; -1
-    // when no user interface announces itself within a generous bound.
-    pid_t WaitForUi(pid_t not_pid = 0) const
-    {
-        for (int i = 0; i < 6000; ++i) {
-            const std::string text = ReadFile(install_ + "/ui.pid");
-            const pid_t pid = text.rfind("pid=", 0) == 0 ? static_cast<pid_t>(atol(text.c_str() + 4)) : 0;
-            if (pid > 0 && pid != not_pid) {
-                return pid;
-            }
-            usleep(10000);
-        }
-        return -1;
-    }
-
-    // The processes that run the user's installed user interface.
-    std::vector<pid_t> UiProcesses() const
-    {
-        std::vector<pid_t> pids;
-        for (const auto& process : launchertest::ProcessesBelow(root_)) {
-            if (process.second == ui_) {
-                pids.push_back(process.first);
-            }
-        }
-        return pids;
-    }
-
     // The launcher's own log lines ("launcher(<line>)"), as LogLines gives them.
     std::vector<std::string> LauncherLines() const
     {
@@ -192,36 +160,6 @@ protected:
         }
         return lines;
     }
-
-    // Backups of the user's bundle that are still around.
-    std::vector<std::string> Backups() const
-    {
-        std::vector<std::string> names;
-        DIR* dir = opendir(install_.c_str());
-        if (dir == nullptr) {
-            ADD_FAILURE() << install_ << ": " << strerror(errno);
-            return names;
-        }
-        while (const struct dirent* e = readdir(dir)) {
-            if (strncmp(e->d_name, "Calderix.app_tmp", 16) == 0) {
-                names.push_back(e->d_name);
-            }
-        }
-        closedir(dir);
-        return names;
-    }
-
-    void ExpectCleanExit(const ProcessResult& r) const
-    {
-        ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
-        EXPECT_EQ(r.exit_code, 0) << r.err;
-        EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
-    }
-
-    std::string install_;
-    std::string app_;
-    std::string ui_;
-    std::string package_;
 };
 
 TEST_F(LauncherRun, FirstInstallationInstallsThePackageAndStartsItsUiOnce)

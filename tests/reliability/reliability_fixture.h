@@ -52,8 +52,8 @@ inline void SnapshotInto(const std::string& root, const std::string& rel, const 
         tree[rel] = "link -> " + std::string(target, n > 0 ? static_cast<size_t>(n) : 0);
     } else {
         const std::string data = testsupport::ReadFile(path);
-        tree[rel] = std::string("file ") + ((st.st_mode & 0111) != 0 ? "x " : "- ") + std::to_string(data.size()) +
-                    " " + std::to_string(std::hash<std::string>()(data));
+        tree[rel] = std::string("file ") + ((st.st_mode & 0111) != 0 ? "x " : "- ") +
+                    std::to_string(data.size()) + " " + std::to_string(std::hash<std::string>()(data));
     }
 }
 
@@ -73,7 +73,8 @@ inline std::string Difference(const Tree& want, const Tree& got)
     for (const auto& w : want) {
         const auto g = got.find(w.first);
         if ((g == got.end() || g->second != w.second) && shown++ < 8) {
-            out += "  " + w.first + (g == got.end() ? ": missing\n" : ": " + g->second + ", want " + w.second + "\n");
+            out += "  " + w.first +
+                   (g == got.end() ? ": missing\n" : ": " + g->second + ", want " + w.second + "\n");
         }
     }
     for (const auto& g : got) {
@@ -111,7 +112,9 @@ inline ::testing::AssertionResult WritePackage(const std::string& path, const st
         archive_entry_set_filetype(entry, e.kind == PackEntry::Folder    ? AE_IFDIR
                                           : e.kind == PackEntry::Symlink ? AE_IFLNK
                                                                          : AE_IFREG);
-        archive_entry_set_perm(entry, e.kind == PackEntry::Folder ? 0755 : e.kind == PackEntry::Symlink ? 0777 : e.perm);
+        archive_entry_set_perm(entry, e.kind == PackEntry::Folder    ? 0755
+                                      : e.kind == PackEntry::Symlink ? 0777
+                                                                     : e.perm);
         if (e.kind == PackEntry::Symlink) {
             archive_entry_set_symlink(entry, e.target.c_str());
         }
@@ -120,8 +123,8 @@ inline ::testing::AssertionResult WritePackage(const std::string& path, const st
         }
         archive_entry_set_size(entry, e.kind == PackEntry::File ? static_cast<la_int64_t>(e.data.size()) : 0);
         if (archive_write_header(a, entry) != ARCHIVE_OK ||
-            (e.kind == PackEntry::File && !e.data.empty() && archive_write_data(a, e.data.data(), e.data.size()) !=
-                                    static_cast<la_ssize_t>(e.data.size()))) {
+            (e.kind == PackEntry::File && !e.data.empty() &&
+             archive_write_data(a, e.data.data(), e.data.size()) != static_cast<la_ssize_t>(e.data.size()))) {
             const char* text = archive_error_string(a);
             error = e.name + ": " + (text != nullptr ? text : "short write");
         }
@@ -150,11 +153,6 @@ protected:
         if (HasFatalFailure()) {
             return;
         }
-        install_ = home_ + "/.Calderix";
-        app_ = install_ + "/Calderix.app";
-        ui_ = app_ + "/Contents/MacOS/calderix-drive-ui";
-        package_ = bundle_ + "/Contents/Resources/package/calderix.vpk";
-        ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/Contents/Resources/package")) << strerror(errno);
         // Something of the user's own next to the installation, which no run may touch.
         ASSERT_TRUE(testsupport::MakeDirs(home_ + "/Documents") &&
                     testsupport::WriteFile(home_ + "/Documents/notes.txt", "mine\n") &&
@@ -173,7 +171,8 @@ protected:
         }
         const std::string macos = app + "/Contents/MacOS";
         const std::string resources = app + "/Contents/Resources";
-        EXPECT_TRUE(testsupport::MakeDirs(macos) && testsupport::MakeDirs(resources)) << app << ": " << strerror(errno);
+        EXPECT_TRUE(testsupport::MakeDirs(macos) && testsupport::MakeDirs(resources))
+            << app << ": " << strerror(errno);
         EXPECT_TRUE(testsupport::CopyTree(DEMO_UI_PATH, macos + "/calderix-drive-ui"))
             << DEMO_UI_PATH << ": " << strerror(errno);
         std::map<std::string, std::string> files = {
@@ -192,7 +191,8 @@ protected:
             }
         }
         for (const auto& file : files) {
-            EXPECT_TRUE(testsupport::WriteFile(file.first, file.second)) << file.first << ": " << strerror(errno);
+            EXPECT_TRUE(testsupport::WriteFile(file.first, file.second))
+                << file.first << ": " << strerror(errno);
         }
         return app;
     }
@@ -227,33 +227,6 @@ protected:
         return tree;
     }
 
-    // The pid in ui.pid once it names a process; -1 when no user interface
-    // announces itself within a generous bound.
-    pid_t WaitForUi() const
-    {
-        for (int i = 0; i < 6000; ++i) {
-            const std::string text = testsupport::ReadFile(install_ + "/ui.pid");
-            const pid_t pid = text.rfind("pid=", 0) == 0 ? static_cast<pid_t>(atol(text.c_str() + 4)) : 0;
-            if (pid > 0) {
-                return pid;
-            }
-            usleep(10000);
-        }
-        return -1;
-    }
-
-    // The processes that run the user's installed user interface.
-    std::vector<pid_t> UiProcesses() const
-    {
-        std::vector<pid_t> pids;
-        for (const auto& process : launchertest::ProcessesBelow(root_)) {
-            if (process.second == ui_) {
-                pids.push_back(process.first);
-            }
-        }
-        return pids;
-    }
-
     // The user interface came up, once.
     void ExpectUiStartedOnce() const
     {
@@ -261,31 +234,4 @@ protected:
         ASSERT_GT(ui, 0) << "no user interface came up";
         EXPECT_EQ(UiProcesses(), std::vector<pid_t>{ui}) << "the user interface was not started exactly once";
     }
-
-    // Backups of the user's bundle that are still around.
-    std::vector<std::string> Backups() const
-    {
-        std::vector<std::string> names;
-        if (DIR* dir = opendir(install_.c_str())) {
-            while (const struct dirent* e = readdir(dir)) {
-                if (strncmp(e->d_name, "Calderix.app_tmp", 16) == 0) {
-                    names.push_back(e->d_name);
-                }
-            }
-            closedir(dir);
-        }
-        return names;
-    }
-
-    void ExpectCleanExit(const testsupport::ProcessResult& r) const
-    {
-        ASSERT_TRUE(r.exited) << "killed by signal " << r.term_signal << "\n" << r.err;
-        EXPECT_EQ(r.exit_code, 0) << r.err;
-        EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
-    }
-
-    std::string install_;
-    std::string app_;
-    std::string ui_;
-    std::string package_;
 };
