@@ -8,6 +8,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
+#include <random>
 #include <set>
 #include <sys/stat.h>
 #include <tuple>
@@ -420,14 +421,35 @@ TEST_F(PackTest, OutputInsideTheBundleIsRefused)
     EXPECT_FALSE(testsupport::Exists(inside)) << inside;
 }
 
-TEST_F(PackTest, CheckRefusesATruncatedPackage)
+// The default package carries a checksum of its content: damage anywhere,
+// down to one flipped bit, is refused rather than unpacked.
+TEST_F(PackTest, CheckRefusesADamagedPackage)
 {
-    Put("Contents/Resources/noise", std::string(300000, 'n') + std::to_string(getpid()));
+    // Incompressible, so that most of the package is literal bytes that no
+    // decoder table would notice.
+    std::mt19937 random(7);
+    std::string noise(300000, '\0');
+    for (char& c : noise) {
+        c = static_cast<char>(random());
+    }
+    Put("Contents/Resources/noise", noise);
     ASSERT_TRUE(vpkpack::Pack(bundle_, out_, {}).ok());
-    ASSERT_EQ(0, truncate(out_.c_str(), static_cast<off_t>(ReadFile(out_).size() / 2)))
-        << std::strerror(errno);
-    const vpkpack::Status cut = vpkpack::Check(out_);
-    EXPECT_EQ(static_cast<int>(Error::ArchiveError), static_cast<int>(cut.error)) << cut.Message();
+    const std::string good = ReadFile(out_);
+    for (const size_t at : {good.size() / 4, good.size() / 2, good.size() * 3 / 4, good.size() - 1}) {
+        for (const bool cut : {false, true}) {
+            std::string bad = good;
+            if (cut) {
+                bad.resize(at);
+            } else {
+                bad[at] = static_cast<char>(bad[at] ^ 0x10);
+            }
+            ASSERT_TRUE(WriteFile(out_, bad)) << out_ << ": " << std::strerror(errno);
+            const vpkpack::Status status = vpkpack::Check(out_);
+            EXPECT_EQ(static_cast<int>(Error::ArchiveError), static_cast<int>(status.error))
+                << (cut ? "cut at " : "bit flipped at ") << at << " of " << good.size() << ": "
+                << status.Message();
+        }
+    }
 }
 
 // --- command line ---

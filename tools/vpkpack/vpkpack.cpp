@@ -23,6 +23,7 @@ namespace {
 // Same block size as the launcher's reader.
 constexpr size_t kBlockSize = 10240;
 constexpr size_t kCopyChunk = 65536;
+constexpr int kZstdLevel = 19;
 
 struct WriterFree {
     void operator()(archive* a) const { archive_write_free(a); }
@@ -132,10 +133,7 @@ Status ConfigureWriter(archive* a, Format format, const std::string& output)
     if (r == ARCHIVE_OK) {
         switch (format) {
         case Format::TarZst:
-            r = archive_write_add_filter_zstd(a);
-            if (r == ARCHIVE_OK) {
-                r = archive_write_set_filter_option(a, "zstd", "compression-level", "19");
-            }
+            // Compressed by ZstdSink when the writer is opened.
             break;
         case Format::TarGz:
             r = archive_write_add_filter_gzip(a);
@@ -232,6 +230,9 @@ Status CopyFileData(archive* a, const Entry& entry)
 Status WritePackage(int fd, const std::string& output, const std::vector<Entry>& entries,
                     const std::string& info_data, const PackOptions& options)
 {
+    // Before the writer: freeing a writer that was not closed closes it,
+    // which still ends the zstd frame.
+    ZstdSink zstd;
     Writer writer(archive_write_new());
     if (!writer) {
         return Refuse(Error::ArchiveError, output, "cannot allocate an archive writer");
@@ -240,7 +241,10 @@ Status WritePackage(int fd, const std::string& output, const std::vector<Entry>&
     if (!status.ok()) {
         return status;
     }
-    if (archive_write_open_fd(writer.get(), fd) != ARCHIVE_OK) {
+    const bool opened = options.format == Format::TarZst
+                            ? zstd.Open(writer.get(), fd, kZstdLevel)
+                            : archive_write_open_fd(writer.get(), fd) == ARCHIVE_OK;
+    if (!opened) {
         return ArchiveFailure(writer.get(), output);
     }
     for (const Entry& entry : entries) {

@@ -4,7 +4,11 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <sys/types.h>
 #include <vector>
+
+struct archive;
+struct ZSTD_CCtx_s;
 
 #include "vpkpack.h"
 
@@ -116,5 +120,27 @@ private:
 };
 
 } // namespace platform
+
+// Opens a writer on fd through a zstd stream whose frame carries a content
+// checksum. The sink must outlive the writer's close, which ends the frame.
+class ZstdSink {
+public:
+    ZstdSink() = default;
+    ZstdSink(const ZstdSink&) = delete;
+    ZstdSink& operator=(const ZstdSink&) = delete;
+    ~ZstdSink();
+
+    // archive_write_open on a; false with the archive's error set.
+    bool Open(archive* a, int fd, int level);
+
+private:
+    bool Compress(archive* a, const void* data, size_t size, bool end);
+    static ssize_t WriteCallback(archive* a, void* self, const void* buffer, size_t size);
+    static int CloseCallback(archive* a, void* self);
+
+    int fd_ = -1;
+    ZSTD_CCtx_s* cctx_ = nullptr;
+    std::vector<char> out_;
+};
 
 } // namespace vpkpack
