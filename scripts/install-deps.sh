@@ -10,7 +10,7 @@ default_packages=(
   qtbase5-dev qtbase5-dev-tools qttools5-dev qttools5-dev-tools
   libqt5svg5
   libarchive-dev libarchive-tools libicu-dev zstd libzstd-dev
-  libgtest-dev libgmock-dev libbenchmark-dev
+  libgtest-dev libgmock-dev libbenchmark-dev valgrind
   xvfb xauth x11-utils
   clang libclang-rt-14-dev
   fonts-dejavu-core

@@ -1,7 +1,12 @@
+#include <algorithm>
+#include <atomic>
+#include <cerrno>
 #include <clocale>
 #include <cstdarg>
 #include <cstring>
 #include <ctime>
+#include <dirent.h>
+#include <fcntl.h>
 #include <set>
 #include <string>
 #include <thread>
@@ -34,7 +39,8 @@ const char* const kBigMarker = "[ERROR] logger_test: big message\n";
     if (end == text.c_str() + kStampLength && text.compare(kStampLength, std::string::npos, message) == 0)
         return ::testing::AssertionSuccess();
     return ::testing::AssertionFailure()
-           << "\"" << text.substr(0, 300) << "\" is not a timestamp followed by \"" << message << "\"";
+           << "\"" << text.substr(0, 300) << "\" is not a timestamp followed by \"" << message.substr(0, 300)
+           << "\"";
 }
 
 void LogC(int level, const char* component, const char* fmt, ...)
@@ -253,6 +259,112 @@ TEST_F(LoggerTest, ThreadsWriteWholeLines)
     }
     EXPECT_EQ(static_cast<size_t>(threads * lines), seen.size()) << "lines were lost";
 }
+
+struct LoadRow {
+    const char* name;
+    int rotate_cnt; // the files kept: the current one and rotate_cnt - 1 rotated ones
+    int lines;      // per thread
+    size_t payload; // bytes after the thread and sequence numbers
+};
+
+class LoggerLoad : public LoggerTest, public ::testing::WithParamInterface<LoadRow> {};
+
+// Eight threads log through dozens of rotations while a ninth lists the
+// folder. What is kept must be whole lines, each thread's newest ones
+// without a gap, in files that each rotated on the first line past the
+// limit, and the folder never holds more files than the count allows.
+TEST_P(LoggerLoad, KeepsEachThreadsNewestLinesWholeAndInOrder)
+{
+    const LoadRow& row = GetParam();
+    const int threads = 8;
+    InitFile(row.rotate_cnt);
+    std::vector<std::string> kept; // oldest first
+    for (int i = row.rotate_cnt - 2; i >= 0; --i)
+        kept.push_back(Rotated(i));
+    kept.push_back(log_);
+    // Inside a rotation the oldest file passes through the next name.
+    const std::string passing = Rotated(row.rotate_cnt - 1);
+
+    std::atomic<bool> done{false};
+    size_t most_files = 0;
+    std::string stranger;
+    // One getdents64() call is one listing that no rename in the folder can
+    // split: the kernel holds the folder's lock for it. readdir() may make
+    // several calls and see a renamed file under both names.
+    std::thread sampler([&] {
+        alignas(struct dirent64) char buffer[16384];
+        while (!done) {
+            const int fd = open(dir_.path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+            const ssize_t n = fd < 0 ? -1 : getdents64(fd, buffer, sizeof buffer);
+            const int error = errno;
+            if (fd >= 0)
+                close(fd);
+            if (n < 0) {
+                stranger = dir_.path() + ": " + strerror(error);
+                return;
+            }
+            size_t files = 0;
+            for (ssize_t at = 0; at < n;
+                 at += reinterpret_cast<const struct dirent64*>(buffer + at)->d_reclen) {
+                const char* name = reinterpret_cast<const struct dirent64*>(buffer + at)->d_name;
+                if (strcmp(name, ".") == 0 || strcmp(name, "..") == 0)
+                    continue;
+                ++files;
+                if (dir_ / name != passing && std::find(kept.begin(), kept.end(), dir_ / name) == kept.end())
+                    stranger = dir_ / name;
+            }
+            most_files = std::max(most_files, files);
+        }
+    });
+    std::vector<std::thread> workers;
+    for (int t = 0; t < threads; ++t) {
+        workers.emplace_back([t, &row] {
+            const std::string payload(row.payload, static_cast<char>('a' + t));
+            for (int i = 0; i < row.lines; ++i)
+                Logger::LogMsg(Logger::LEVEL_ERROR, "load", "[ERROR] load(%d) %d %s\n", t, i,
+                               payload.c_str());
+        });
+    }
+    for (std::thread& worker : workers)
+        worker.join();
+    done = true;
+    sampler.join();
+    EXPECT_LE(most_files, kept.size())
+        << "more files than a rotation count of " << row.rotate_cnt << " allows";
+    EXPECT_EQ("", stranger) << "a file of a name the logger does not keep";
+
+    const size_t longest = kStampLength + 40 + row.payload;
+    std::vector<int> last(threads, -1);
+    for (const std::string& path : kept) {
+        const long long size = FileSize(path);
+        ASSERT_TRUE(path == log_ ||
+                    (size > kRotateSize && size <= kRotateSize + static_cast<long long>(longest)))
+            << path << " holds " << size << " bytes, not the first line past the rotation size";
+        for (const std::string& line : ts::Lines(ts::ReadFile(path))) {
+            int t = -1, i = -1;
+            std::sscanf(line.c_str() + std::min(line.size(), kStampLength), "[ERROR] load(%d) %d", &t, &i);
+            ASSERT_TRUE(t >= 0 && t < threads)
+                << path << ": torn or mixed line \"" << line.substr(0, 300) << "\"";
+            const std::string expected = "[ERROR] load(" + std::to_string(t) + ") " + std::to_string(i) +
+                                         " " + std::string(row.payload, static_cast<char>('a' + t));
+            ASSERT_TRUE(IsStampedLine(line, expected)) << path << ": torn or mixed line";
+            ASSERT_TRUE(last[t] < 0 || i == last[t] + 1)
+                << path << ": thread " << t << " line " << i << " follows line " << last[t];
+            last[t] = i;
+        }
+    }
+    for (int t = 0; t < threads; ++t)
+        EXPECT_TRUE(last[t] < 0 || last[t] == row.lines - 1)
+            << "thread " << t << ": the kept lines end at " << last[t] << " of " << row.lines;
+}
+
+// Some 30 MB each: about thirty rotations. The long lines take stdio more
+// than one write() apiece.
+INSTANTIATE_TEST_SUITE_P(Rotations, LoggerLoad,
+                         ::testing::Values(LoadRow{"TwoFilesShortLines", 2, 30000, 100},
+                                           LoadRow{"ThreeFilesLongLines", 3, 700, 5000},
+                                           LoadRow{"SixFiles", 6, 4000, 900}),
+                         RowName);
 
 TEST_F(LoggerTest, DestroyDropsMessagesUntilNextInitialize)
 {
