@@ -1,12 +1,17 @@
 // Preloaded into one launcher run to end it with SIGKILL at a chosen
 // moment of an upgrade, without timing: the moment is a count of the file
 // system calls the upgrade makes, which the launcher and libarchive's disk
-// writer reach through the dynamic linker.
+// writer reach through the dynamic linker. At a creation it can instead
+// stop the launcher, or take away the write permission that the rest of
+// the extraction needs.
 //
 //   CALDERIX_KILL_ROOT  the user installation folder (~/.Calderix)
 //   CALDERIX_KILL_AT    create:K        right after the K-th folder, file or
 //                                       link is created below Calderix.app
 //                                       (one per package entry)
+//                       stop:K          the same moment, SIGSTOP instead
+//                       chmod:K         the same moment, the folder holding
+//                                       that entry becomes read-only (0555)
 //                       backup-before   just before Calderix.app is renamed
 //                                       to Calderix.app_tmp
 //                       backup-after    right after that rename
@@ -28,7 +33,7 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-enum Mode { kNone, kCreate, kBackupBefore, kBackupAfter, kRemove };
+enum Mode { kNone, kCreate, kStop, kChmod, kBackupBefore, kBackupAfter, kRemove };
 
 static enum Mode mode = kNone;
 static long target;
@@ -46,6 +51,12 @@ __attribute__((constructor)) static void Setup(void)
         if (strncmp(at, "create:", 7) == 0) {
             mode = kCreate;
             target = atol(at + 7);
+        } else if (strncmp(at, "stop:", 5) == 0) {
+            mode = kStop;
+            target = atol(at + 5);
+        } else if (strncmp(at, "chmod:", 6) == 0) {
+            mode = kChmod;
+            target = atol(at + 6);
         } else if (strncmp(at, "remove:", 7) == 0) {
             mode = kRemove;
             target = atol(at + 7);
@@ -74,8 +85,21 @@ static int Below(const char* path, const char* folder)
 
 static void Created(int result, const char* path)
 {
-    if (mode == kCreate && result >= 0 && Below(path, app) && __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) == target) {
+    if ((mode != kCreate && mode != kStop && mode != kChmod) || result < 0 || !Below(path, app) ||
+        __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) != target) {
+        return;
+    }
+    if (mode == kCreate) {
         Die();
+    } else if (mode == kStop) {
+        syscall(SYS_kill, getpid(), SIGSTOP);
+    } else {
+        char folder[PATH_MAX];
+        snprintf(folder, sizeof folder, "%s", path);
+        *strrchr(folder, '/') = '\0';
+        if (chmod(folder, 0555) != 0) {
+            abort();
+        }
     }
 }
 

@@ -217,6 +217,21 @@ protected:
         ASSERT_TRUE(testsupport::CopyTree(ClientBundle(build), app_)) << app_ << ": " << strerror(errno);
     }
 
+    // A run's environment with kill_shim.c (built at shim) preloaded,
+    // acting at at. The shim comes ahead of the sanitizer's runtime, which
+    // is harmless here: it only forwards calls.
+    std::vector<testsupport::EnvChange> ShimEnv(const std::string& shim, const std::string& at) const
+    {
+        std::vector<testsupport::EnvChange> env = Env(home_);
+        const char* asan = getenv("ASAN_OPTIONS");
+        env.push_back(testsupport::Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") +
+                                                           ":verify_asan_link_order=0"));
+        env.push_back(testsupport::Set("LD_PRELOAD", shim));
+        env.push_back(testsupport::Set("CALDERIX_KILL_AT", at));
+        env.push_back(testsupport::Set("CALDERIX_KILL_ROOT", install_));
+        return env;
+    }
+
     // Everything of the user's outside ~/.Calderix, and the launcher's bundle.
     reliability::Tree Outside() const
     {

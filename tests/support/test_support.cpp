@@ -207,14 +207,17 @@ std::vector<char*> Pointers(std::vector<std::string>& strings)
     return ptrs;
 }
 
-// In the child: wires fds 0-2 and execs; never returns.
+// In the child: wires fds 0-2, runs before_exec and execs; never returns.
 [[noreturn]] void ExecChild(std::vector<std::string> argv, std::vector<std::string> env, int out_fd,
-                            int err_fd)
+                            int err_fd, const std::function<void()>& before_exec = {})
 {
     const int null_fd = open("/dev/null", O_RDWR);
     dup2(null_fd, 0);
     dup2(out_fd >= 0 ? out_fd : null_fd, 1);
     dup2(err_fd >= 0 ? err_fd : null_fd, 2);
+    if (before_exec) {
+        before_exec();
+    }
     std::vector<char*> args = Pointers(argv);
     std::vector<char*> envp = Pointers(env);
     execve(args[0], args.data(), envp.data());
@@ -224,7 +227,8 @@ std::vector<char*> Pointers(std::vector<std::string>& strings)
 
 } // namespace
 
-ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvChange>& env)
+ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvChange>& env,
+                  const std::function<void()>& before_exec)
 {
     ProcessResult result;
     int out_pipe[2];
@@ -236,7 +240,7 @@ ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvCha
     std::vector<std::string> envs = BuildEnv(env);
     const pid_t pid = fork();
     if (pid == 0) {
-        ExecChild(argv, envs, out_pipe[1], err_pipe[1]);
+        ExecChild(argv, envs, out_pipe[1], err_pipe[1], before_exec);
     }
     close(out_pipe[1]);
     close(err_pipe[1]);

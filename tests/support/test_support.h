@@ -2,6 +2,7 @@
 // tree copies, and child processes run with a chosen environment.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <sys/types.h>
@@ -54,8 +55,11 @@ struct ProcessResult {
 };
 
 // Runs argv[0] with the given environment changes, waits for it and returns
-// what it printed. stdin is /dev/null.
-ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvChange>& env = {});
+// what it printed. stdin is /dev/null. before_exec runs in the child right
+// before the exec, for what only the child itself can set up (limits,
+// credentials, namespaces); it reports its own failures and _exit()s.
+ProcessResult Run(const std::vector<std::string>& argv, const std::vector<EnvChange>& env = {},
+                  const std::function<void()>& before_exec = {});
 
 // Starts argv[0] in the background with stdout/stderr to the given files
 // (empty: /dev/null); returns its pid or -1.
