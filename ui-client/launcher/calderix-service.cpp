@@ -1,6 +1,11 @@
 #include "calderix-service.h"
 
 #include <cstdio>
+#include <cstring>
+#include <dirent.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <QCoreApplication>
 #include <QDir>
@@ -18,6 +23,35 @@ namespace {
 
 // The upgrade tries at most this many backup names before it gives up.
 const int kBackupTries = 10;
+
+// Gives the user back read, write and search permission on every folder
+// of the tree at path that they own, without following links. FSRemove
+// stops at the first entry it cannot remove, and a folder the user cannot
+// write is such a stop: a failed extraction can leave one in the new copy
+// (the disk writer applies the package's folder modes when it closes, and
+// other programs of the user may change them meanwhile), and a copy that
+// cannot be removed keeps the backup from being renamed back. Failures are
+// left for FSRemove to meet.
+void MakeRemovable(const std::string& path)
+{
+    struct stat st;
+    if (lstat(path.c_str(), &st) != 0 || !S_ISDIR(st.st_mode) || st.st_uid != geteuid()) {
+        return;
+    }
+    if ((st.st_mode & S_IRWXU) != S_IRWXU && chmod(path.c_str(), (st.st_mode & 07777) | S_IRWXU) != 0) {
+        return;
+    }
+    DIR* dir = opendir(path.c_str());
+    if (dir == nullptr) {
+        return;
+    }
+    while (const struct dirent* e = readdir(dir)) {
+        if (strcmp(e->d_name, ".") != 0 && strcmp(e->d_name, "..") != 0) {
+            MakeRemovable(path + "/" + e->d_name);
+        }
+    }
+    closedir(dir);
+}
 
 ustring FromQString(const QString& s)
 {
@@ -176,6 +210,7 @@ int Service::PrepareUserEnv()
             __LINE__);
         // Best effort: if either step fails there is nothing better to put
         // in place, and the backup stays under its name for the next run.
+        MakeRemovable(bundle.c_str());
         FSRemove(bundle, false);
         FSRename(backup, bundle, false);
         return -1;
@@ -185,6 +220,7 @@ int Service::PrepareUserEnv()
                    "[INFO] calderix-service(%d): user installation is ready, removing backup app\n",
                    __LINE__);
     for (int j = 0; j <= used; ++j) {
+        MakeRemovable(GetAppBackupDir(bundle, j).c_str());
         FSRemove(GetAppBackupDir(bundle, j), false);
     }
     return 0;
