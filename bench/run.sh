@@ -3,12 +3,15 @@
 # the commands alternating round by round so that a change in the machine's
 # load hits all of them alike. Writes docs/PERFORMANCE.md.
 #
-#   bench/run.sh [--rounds N] [--start-rounds N] [--format tar.zst|zip|tar.gz]
-#                [--label TEXT] [--no-micro] BUILD_DIR
+#   bench/run.sh [--rounds N] [--start-rounds N] [--label TEXT] [--no-micro]
+#                BUILD_DIR
 #
 # BUILD_DIR is a built tree (Release or RelWithDebInfo) with the demo bundle,
 # bench_bare_app and calderix_bench. The payload comes from
-# bench/make-payload.sh, made into BUILD_DIR/bench-payload when missing.
+# bench/make-payload.sh, made into BUILD_DIR/bench-payload when missing or
+# older than vpkpack. The upgrade runs with vpkpack's default package
+# (tar.zst) and with the same payload as a deflate zip, each against bsdtar
+# of the same package.
 # Raw samples go to BUILD_DIR/bench-results. Everything else it makes (work
 # folders in /dev/shm and /var/tmp, the users' homes, lock folders) is
 # removed on exit, and every demo UI started from those homes is ended.
@@ -19,14 +22,12 @@ here=$(cd "$(dirname "$0")" && pwd)
 repo=$(cd "$here/.." && pwd)
 rounds=10
 start_rounds=20
-format=tar.zst
 label="preliminary (taken while the machine was busy)"
 micro=1
 while [ $# -gt 0 ]; do
   case $1 in
     --rounds) rounds=$2; shift 2 ;;
     --start-rounds) start_rounds=$2; shift 2 ;;
-    --format) format=$2; shift 2 ;;
     --label) label=$2; shift 2 ;;
     --no-micro) micro=0; shift ;;
     -*) echo "run.sh: unknown option $1" >&2; exit 2 ;;
@@ -52,10 +53,13 @@ for f in "$demo/Contents/MacOS/launcher" "$bare_exe"; do
   fi
 done
 payload=$build/bench-payload
-if [ ! -f "$payload/calderix.$format.vpk" ]; then
-  "$here/make-payload.sh" "$build" "$payload"
-fi
-package=$payload/calderix.$format.vpk
+formats=(tar.zst zip)
+for f in "${formats[@]}"; do
+  if [ ! -f "$payload/calderix.$f.vpk" ] || [ "$build/tools/vpkpack/vpkpack" -nt "$payload/calderix.$f.vpk" ]; then
+    "$here/make-payload.sh" "$build" "$payload"
+    break
+  fi
+done
 expected_entries=$(wc -l < "$payload/manifest.txt")
 
 results=$build/bench-results
@@ -103,15 +107,18 @@ trap 'exit 130' INT TERM
 # the bare application holding only the offscreen plug-in; the payload
 # extracted once, as the source of the copying floor.
 assemble() {
-  local w=$1
-  cp -a "$demo" "$w/Calderix Drive.app"
-  cp "$package" "$w/Calderix Drive.app/Contents/Resources/package/calderix.vpk"
-  cp "$payload/INFO" "$w/Calderix Drive.app/Contents/Resources/INFO"
+  local w=$1 f
+  for f in "${formats[@]}"; do
+    mkdir -p "$w/$f"
+    cp -a "$demo" "$w/$f/Calderix Drive.app"
+    cp "$payload/calderix.$f.vpk" "$w/$f/Calderix Drive.app/Contents/Resources/package/calderix.vpk"
+    cp "$payload/INFO" "$w/$f/Calderix Drive.app/Contents/Resources/INFO"
+  done
   mkdir -p "$w/Bare.app/Contents/MacOS" "$w/Bare.app/Contents/Frameworks/plugins/platforms"
   cp "$bare_exe" "$w/Bare.app/Contents/MacOS/bench_bare_app"
   cp "$demo/Contents/Frameworks/plugins/platforms/libqoffscreen.so" "$w/Bare.app/Contents/Frameworks/plugins/platforms/"
   mkdir -p "$w/extracted/Calderix.app" "$w/tmp"
-  bsdtar -xf "$package" -C "$w/extracted/Calderix.app"
+  bsdtar -xf "$payload/calderix.tar.zst.vpk" -C "$w/extracted/Calderix.app"
 }
 
 # The environment of every measured command: nothing from the caller's
@@ -165,44 +172,49 @@ commands_md=$results/commands.md
 : > "$commands_md"
 
 bench_location() {
-  local where=$1 base=$2 w e app launcher bare r i k name order ui_inode
+  local where=$1 base=$2 w e app launcher bare r i k name order ui_inode f
+  local -a cmds
   w=$(mktemp -d "$base/calderix-bench.XXXXXX")
   work_dirs+=("$w")
   homes+=("$w/home")
   assemble "$w"
   e=$(run_env "$w")
   app=$w/home/.Calderix/Calderix.app
-  launcher="$w/Calderix Drive.app/Contents/MacOS/launcher"
   bare=$w/Bare.app/Contents/MacOS/bench_bare_app
+  launcher_of() { echo "$w/$1/Calderix Drive.app/Contents/MacOS/launcher"; }
 
   {
     echo "On $where (\`$w\`, $(findmnt -no FSTYPE -T "$w" | head -1)):"
     echo
     echo '```sh'
     echo "# every command runs as: $e COMMAND"
-    echo "upgrade-launcher-$where: '$launcher'"
-    echo "upgrade-bsdtar-$where:   bsdtar -xf $package -C $app   # after an untimed mkdir -p of $app"
+    for f in "${formats[@]}"; do
+      echo "upgrade-launcher-$f-$where: '$(launcher_of "$f")'   # its bundle carries calderix.$f.vpk"
+      echo "upgrade-bsdtar-$f-$where:   bsdtar -xf $payload/calderix.$f.vpk -C $app   # after an untimed mkdir -p of $app"
+    done
     echo "upgrade-cp-$where:       cp -a $w/extracted/Calderix.app $w/home/.Calderix/   # after an untimed mkdir -p of $w/home/.Calderix"
-    echo "start-launcher-$where:   '$launcher'   # the copy installed and current"
+    echo "start-launcher-$where:   '$(launcher_of tar.zst)'   # the copy installed and current"
     echo "start-bare-$where:       $bare"
+    echo "start-window-$where:     $bare --window"
     echo '```'
     echo
   } >> "$commands_md"
 
-  echo "run.sh: upgrade on $where, $rounds rounds"
+  cmds=()
+  for f in "${formats[@]}"; do cmds+=("launcher-$f" "bsdtar-$f"); done
+  cmds+=(cp)
+  echo "run.sh: upgrade on $where, $rounds rounds of ${#cmds[@]} commands"
   for r in $(seq 0 $((rounds - 1))); do
     # Each round starts with another command, so none always runs first.
-    for k in 0 1 2; do
-      i=$(((r + k) % 3))
+    for k in $(seq 0 $((${#cmds[@]} - 1))); do
+      i=$(((r + k) % ${#cmds[@]}))
+      name=upgrade-${cmds[$i]}-$where
       fresh_home "$w"
-      case $i in
-        0) name=upgrade-launcher-$where
-           measure "$name" $e "$launcher" ;;
-        1) name=upgrade-bsdtar-$where
-           mkdir -p "$app"
-           measure "$name" $e bsdtar -xf "$package" -C "$app" ;;
-        2) name=upgrade-cp-$where
-           mkdir -p "$w/home/.Calderix"
+      case ${cmds[$i]} in
+        launcher-*) measure "$name" $e "$(launcher_of "${cmds[$i]#launcher-}")" ;;
+        bsdtar-*) mkdir -p "$app"
+           measure "$name" $e bsdtar -xf "$payload/calderix.${cmds[$i]#bsdtar-}.vpk" -C "$app" ;;
+        cp) mkdir -p "$w/home/.Calderix"
            measure "$name" $e cp -a "$w/extracted/Calderix.app" "$w/home/.Calderix/" ;;
       esac
       if [ "$r" -eq 0 ]; then check_installed "$app" "$name"; fi
@@ -211,17 +223,21 @@ bench_location() {
 
   echo "run.sh: start with nothing to upgrade on $where, $start_rounds rounds"
   fresh_home "$w"
-  $e "$launcher" > /dev/null 2> "$results/install-$where.stderr"
+  $e "$(launcher_of tar.zst)" > /dev/null 2> "$results/install-$where.stderr"
   check_installed "$app" "the installing launcher"
   ui_inode=$(stat -c %i "$app/Contents/MacOS/calderix-drive-ui")
   for r in $(seq 0 $((start_rounds - 1))); do
-    order="launcher bare"
-    if [ $((r % 2)) -eq 1 ]; then order="bare launcher"; fi
+    case $((r % 3)) in
+      0) order="launcher bare window" ;;
+      1) order="bare window launcher" ;;
+      *) order="window launcher bare" ;;
+    esac
     for k in $order; do
       settle "$w/home"
       case $k in
-        launcher) measure "start-launcher-$where" $e "$launcher" ;;
+        launcher) measure "start-launcher-$where" $e "$(launcher_of tar.zst)" ;;
         bare) measure "start-bare-$where" $e "$bare" ;;
+        window) measure "start-window-$where" $e "$bare" --window ;;
       esac
     done
   done
@@ -249,23 +265,51 @@ ms() { awk -v s="$1" 'BEGIN { printf "%.1f", s * 1000 }'; }
 mib() { awk -v k="$1" 'BEGIN { printf "%.1f", k / 1024 }'; }
 
 table=$results/table.md
+targets=$results/targets.md
 {
-  echo "| Where | Command | Median time (ms) | Median peak RSS (MiB) | Time ratio |"
-  echo "|---|---|---:|---:|---|"
+  echo "| Where | Command | Median time (ms) | Median peak RSS (MiB) |"
+  echo "|---|---|---:|---:|"
   for where in shm disk; do
-    tl=$(median 1 "$results/upgrade-launcher-$where.samples")
-    tb=$(median 1 "$results/upgrade-bsdtar-$where.samples")
-    tc=$(median 1 "$results/upgrade-cp-$where.samples")
-    echo "| $where | upgrade: launcher | $(ms "$tl") | $(mib "$(median 2 "$results/upgrade-launcher-$where.samples")") | launcher/bsdtar $(ratio "$tl" "$tb"), launcher/cp $(ratio "$tl" "$tc") |"
-    echo "| $where | upgrade: bsdtar -xf | $(ms "$tb") | $(mib "$(median 2 "$results/upgrade-bsdtar-$where.samples")") | bsdtar/cp $(ratio "$tb" "$tc") |"
-    echo "| $where | upgrade: cp -a | $(ms "$tc") | $(mib "$(median 2 "$results/upgrade-cp-$where.samples")") | 1 |"
-    sl=$(median 1 "$results/start-launcher-$where.samples")
-    sb=$(median 1 "$results/start-bare-$where.samples")
-    echo "| $where | start: launcher | $(ms "$sl") | $(mib "$(median 2 "$results/start-launcher-$where.samples")") | launcher/bare $(ratio "$sl" "$sb") |"
-    echo "| $where | start: bare QApplication | $(ms "$sb") | $(mib "$(median 2 "$results/start-bare-$where.samples")") | 1 |"
+    for name in launcher-tar.zst bsdtar-tar.zst launcher-zip bsdtar-zip cp; do
+      echo "| $where | upgrade: $name | $(ms "$(median 1 "$results/upgrade-$name-$where.samples")") | $(mib "$(median 2 "$results/upgrade-$name-$where.samples")") |"
+    done
+    for name in launcher bare window; do
+      echo "| $where | start: $name | $(ms "$(median 1 "$results/start-$name-$where.samples")") | $(mib "$(median 2 "$results/start-$name-$where.samples")") |"
+    done
   done
 } > "$table"
-cat "$table"
+# One row per target: the measured ratio (or difference) and the limit.
+t() { median 1 "$results/$1-$2.samples"; }
+m() { median 2 "$results/$1-$2.samples"; }
+verdict() { awk -v v="$1" -v l="$2" 'BEGIN { print (v <= l ? "met" : "missed") }'; }
+{
+  echo "| Target | shm | disk | Limit |"
+  echo "|---|---:|---:|---:|"
+  row() {
+    local text=$1 limit=$2 a b
+    a=$3
+    b=$4
+    echo "| $text | $a ($(verdict "$a" "$limit")) | $b ($(verdict "$b" "$limit")) | $limit |"
+  }
+  row "upgrade, zip: launcher / bsdtar" 1.10 \
+    "$(ratio "$(t upgrade-launcher-zip shm)" "$(t upgrade-bsdtar-zip shm)")" \
+    "$(ratio "$(t upgrade-launcher-zip disk)" "$(t upgrade-bsdtar-zip disk)")"
+  row "upgrade, tar.zst: launcher / bsdtar" 1.70 \
+    "$(ratio "$(t upgrade-launcher-tar.zst shm)" "$(t upgrade-bsdtar-tar.zst shm)")" \
+    "$(ratio "$(t upgrade-launcher-tar.zst disk)" "$(t upgrade-bsdtar-tar.zst disk)")"
+  row "upgrade: launcher with tar.zst / bsdtar of the deflate zip" 0.65 \
+    "$(ratio "$(t upgrade-launcher-tar.zst shm)" "$(t upgrade-bsdtar-zip shm)")" \
+    "$(ratio "$(t upgrade-launcher-tar.zst disk)" "$(t upgrade-bsdtar-zip disk)")"
+  row "start: launcher / bare QApplication" 1.30 \
+    "$(ratio "$(t start-launcher shm)" "$(t start-bare shm)")" \
+    "$(ratio "$(t start-launcher disk)" "$(t start-bare disk)")"
+  for f in "${formats[@]}"; do
+    row "peak RSS of the $f upgrade over the bare QApplication with a window (MiB)" 16.0 \
+      "$(awk -v a="$(m upgrade-launcher-$f shm)" -v b="$(m start-window shm)" 'BEGIN { printf "%.1f", (a - b) / 1024 }')" \
+      "$(awk -v a="$(m upgrade-launcher-$f disk)" -v b="$(m start-window disk)" 'BEGIN { printf "%.1f", (a - b) / 1024 }')"
+  done
+} > "$targets"
+cat "$targets" "$table"
 
 micro_md=$results/micro.txt
 if [ $micro -eq 1 ] && [ -x "$build/bench/calderix_bench" ]; then
@@ -275,78 +319,21 @@ if [ $micro -eq 1 ] && [ -x "$build/bench/calderix_bench" ]; then
 fi
 
 payload_bytes=$(awk '$1 == "f" {s += $3} END {print s + 0}' "$payload/manifest.txt")
-package_bytes=$(stat -c %s "$package")
 build_type=$(sed -n 's/^CMAKE_BUILD_TYPE:STRING=//p' "$build/CMakeCache.txt")
 
-doc=$repo/docs/PERFORMANCE.md
+# The figures replace what stands between the two markers of
+# docs/PERFORMANCE.md; the method and the analysis around them are prose.
+figures=$results/figures.md
 {
-  cat <<DOC
-# Performance
-
-How long the launcher takes, and how much memory, set against the floors it
-cannot beat. The figures below are **$label**.
-
-## Method
-
-The payload is made by \`bench/make-payload.sh\` from files already on a
-Debian 12 machine, none of them ours: the Qt 5 libraries (laid out as
-frameworks, with \`Versions/Current\` links), the Qt plug-ins, the ICU data
-library, the Qt translations and two icon themes, plus the demo UI with its
-\`Info.plist\` and \`INFO\`. The lists are sorted and every entry gets a fixed
-mode and time, so one machine state always gives the same bundle; the
-Debian versions of the sources are in \`sources.txt\` beside it. vpkpack packs
-it as tar.zst, zip and tar.gz.
-
-\`bench/run.sh\` then measures, on /dev/shm and on the disk (/var/tmp):
-
-- **upgrade**: the launcher from an assembled copy of the demo bundle that
-  carries the payload's package and \`INFO\`, with a fresh, empty home, so it
-  extracts the package and starts the installed UI; against \`bsdtar -xf\` of
-  the same package into the same kind of folder (the extraction floor), and
-  \`cp -a\` of the already extracted tree (the floor for writing the files).
-  The launcher returns once the installed UI has been started (detached), so
-  its time runs from the package to the started UI. The UI quits 1 ms after
-  it starts (\`CALDERIX_DEMO_UI_EXIT_AFTER_MS=1\`) and the script waits for it
-  before the next command.
-- **start with nothing to upgrade**: the launcher with the copy installed and
-  current, which still starts the UI, against a bare \`QApplication\` that is
-  constructed and quits from its event loop (\`bench/bare_app.cpp\`), run from
-  a bundle of the same shape that holds only the offscreen plug-in.
-
-Every command runs offscreen in an empty environment (\`env -i\`) with its own
-\`HOME\` and \`TMPDIR\`, under \`/usr/bin/time -v\` for the peak RSS; the wall
-time is taken around it. The commands alternate within each round and each
-round starts with another one, so a change in the machine's load touches
-all of them; the home is rebuilt and \`sync\` run before each command, outside
-the timing. The package is read from the page cache (it is read once while
-the bundles are assembled). The tables show medians over $rounds upgrade
-rounds and $start_rounds start rounds; ratios divide medians. Raw samples
-stay in \`BUILD_DIR/bench-results\`.
-
-The microbenchmarks (\`calderix_bench\`, Google Benchmark) time the library
-calls the launcher makes most: ustring append, find and NFC of a path,
-Config::read of the level file, Logger::LogMsg for a message its threshold
-filters out and one it writes, TmpNameGen::getTmpName and FSRemove of a tree
-of 5,000 files. Debian's libbenchmark is a debug build, which it reports; it
-costs the loop, not the code measured.
-
-To repeat:
-
-\`\`\`sh
-cmake -S . -B build-bench -G Ninja -DCMAKE_BUILD_TYPE=Release -DCALDERIX_BUILD_TESTS=OFF
-cmake --build build-bench
-bench/make-payload.sh build-bench
-bench/run.sh --label "taken on a quiet machine" build-bench
-\`\`\`
-
-## Figures: $label
-
-Taken $started with a $build_type build, package format $format
-($((package_bytes / 1000000)) MB packed, $((payload_bytes / 1000000)) MB in
-$expected_entries entries unpacked). Load average before: $load_before;
-after: $load_after.
-
-DOC
+  echo "## Figures: $label"
+  echo
+  echo "Taken $started with a $build_type build. Payload: $((payload_bytes / 1000000)) MB in"
+  echo "$expected_entries entries; packed by vpkpack as tar.zst $(($(stat -c %s "$payload/calderix.tar.zst.vpk") / 1000000)) MB,"
+  echo "as zip $(($(stat -c %s "$payload/calderix.zip.vpk") / 1000000)) MB. Load average before: $load_before; after: $load_after."
+  echo "Medians of $rounds upgrade rounds and $start_rounds start rounds; ratios divide medians."
+  echo
+  cat "$targets"
+  echo
   cat "$table"
   echo
   if [ -s "$micro_md" ]; then
@@ -370,5 +357,18 @@ DOC
   grep PRETTY_NAME /etc/os-release
   echo "/dev/shm: $(findmnt -no FSTYPE -T /dev/shm | head -1); /var/tmp: $(findmnt -no SOURCE,FSTYPE -T /var/tmp | head -1)"
   echo '```'
-} > "$doc"
+} > "$figures"
+
+doc=$repo/docs/PERFORMANCE.md
+begin='<!-- bench/run.sh: figures begin -->'
+end='<!-- bench/run.sh: figures end -->'
+if grep -qF "$begin" "$doc" 2>/dev/null && grep -qF "$end" "$doc"; then
+  awk -v begin="$begin" -v end="$end" -v figures="$figures" '
+    $0 == begin { print; while ((getline line < figures) > 0) print line; skip = 1; next }
+    $0 == end { skip = 0 }
+    !skip' "$doc" > "$doc.new"
+  mv "$doc.new" "$doc"
+else
+  { echo "# Performance"; echo; echo "$begin"; cat "$figures"; echo "$end"; } > "$doc"
+fi
 echo "run.sh: wrote $doc"
