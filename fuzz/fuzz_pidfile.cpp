@@ -12,153 +12,92 @@
 //     a millisecond for the stand-in to die), so that five probes cost
 //     nothing.
 //  3. Where a new PID namespace is not permitted, inputs whose pid names an
-//     existing process other than the stand-in are skipped.
-// The parent then compares the recorded calls with what the file asks for:
-// SIGTERM to a positive decimal pid, probes, perhaps SIGKILL, and no signal
-// at all for anything else.
-#include <cerrno>
+//     existing process are skipped.
+// The parent then holds the recorded calls against the file: a signal only to
+// the process whose decimal number the file's "pid" holds, SIGTERM first,
+// then probes a second apart, SIGKILL only after the fifth; and a stand-in
+// that the file names does not outlive the sequence.
 #include <climits>
 #include <csignal>
-#include <cstdint>
 #include <ctime>
+#include <new>
 #include <sched.h>
-#include <string>
+#include <sys/mman.h>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <unistd.h>
 
 #include "config.h"
 #include "fuzz_support.h"
-#include "launch_services.h"
 #include "mac-service.h"
 
 namespace {
 
-using fuzzsupport::Show;
-
 struct Call {
-    int is_kill; // 0 for sleep
     int pid;
     int sig;
-    int delivered;
-    int error; // errno of the call, 0 on success
+    int sleeps; // made before the call
 };
 
 const int kMaxCalls = 64;
+// Shared with the processes that run the stop sequence.
 struct Trace {
     int count;
-    int overflow;
-    int target_alive_after;
-    int target_pid;
-    int in_namespace;
+    int sleeps;
+    bool in_namespace;
+    bool signalled; // a signal other than a probe reached the stand-in
+    bool target_alive_after;
+    pid_t target_pid;
     Call calls[kMaxCalls];
 };
 
 volatile sig_atomic_t g_armed = 0;
-pid_t g_target = 0;
-Trace g_trace;
+Trace* g_trace = nullptr;
 
-void Record(const Call& call)
-{
-    if (g_trace.count < kMaxCalls) {
-        g_trace.calls[g_trace.count++] = call;
-    } else {
-        g_trace.overflow = 1;
-    }
-}
-
-class NoLaunch : public platform::LaunchServices {
-public:
-    int Unregister(const std::string&) override { return 0; }
-    int Open(const std::string&) override { return 0; }
-};
-
-void DefaultSignals()
-{
-    for (int sig = 1; sig < NSIG; ++sig) {
-        if (sig != SIGKILL && sig != SIGSTOP) {
-            signal(sig, SIG_DFL);
-        }
-    }
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-}
-
-// The process whose pid the file means: the value of "pid" when it is a
-// positive decimal number that fits a pid, else none (0).
-pid_t ExpectedPid(const std::string& pid_file)
+// The value of "pid" as Config reads it, leading zeros dropped: the decimal
+// number of the only process a signal may reach, or no number at all.
+std::string NamedPid(const std::string& path)
 {
     Config config;
-    if (config.read(ustring(pid_file.c_str())) < 0) {
-        return 0;
-    }
-    const auto it = config.entries.find(ustring("pid"));
-    if (it == config.entries.end() || it->second.empty()) {
-        return 0;
-    }
-    long long value = 0;
-    for (unsigned long i = 0; i < it->second.length(); ++i) {
-        const char c = it->second[i];
-        if (c < '0' || c > '9') return 0;
-        value = value * 10 + (c - '0');
-        if (value > INT_MAX) return 0;
-    }
-    return static_cast<pid_t>(value);
+    const auto it =
+        config.read(ustring(path.c_str())) < 0 ? config.entries.end() : config.entries.find(ustring("pid"));
+    std::string text = it == config.entries.end() ? "" : std::string(it->second.c_str(), it->second.length());
+    return text.erase(0, text.find_first_not_of('0'));
 }
 
-void WriteAll(int fd, const void* data, size_t size)
+// Runs in the process that calls StopService: starts the stand-in and runs
+// the stop sequence with kill and sleep recorded.
+[[noreturn]] void RunStop(bool in_namespace)
 {
-    const char* p = static_cast<const char*>(data);
-    while (size > 0) {
-        const ssize_t n = write(fd, p, size);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) _exit(3);
-        p += n;
-        size -= static_cast<size_t>(n);
+    for (int sig = 1; sig < NSIG; ++sig) {
+        signal(sig, SIG_DFL); // not libFuzzer's handlers
     }
-}
-
-// Runs in the process that calls StopService: starts the stand-in, runs the
-// stop sequence with kill and sleep recorded, and sends the trace back.
-[[noreturn]] void RunStop(int out_fd, bool in_namespace)
-{
-    DefaultSignals();
     setsid();
     // Reaps the stand-in at once, so that a probe after its death finds no
     // process rather than a zombie, as the launcher (not its parent) would.
     signal(SIGCHLD, SIG_IGN);
     const pid_t standin = fork();
-    if (standin < 0) _exit(4);
+    if (standin < 0) {
+        _exit(4); // and never a signal to pid -1
+    }
     if (standin == 0) {
-        DefaultSignals();
         prctl(PR_SET_PDEATHSIG, SIGKILL);
-        for (;;) pause();
+        for (;;) {
+            pause();
+        }
     }
-    g_trace = Trace();
-    g_trace.in_namespace = in_namespace;
-    g_trace.target_pid = standin;
-    g_target = standin;
-    {
-        static NoLaunch launch;
-        MacService service(launch);
-        g_armed = 1;
-        service.StopService();
-        g_armed = 0;
-    }
+    *g_trace = Trace{0, 0, in_namespace, false, false, standin, {}};
+    g_armed = 1;
+    MacService().StopService();
+    g_armed = 0;
     // A stand-in that got a signal may still be on its way out.
-    bool signalled = false;
-    for (int i = 0; i < g_trace.count; ++i) {
-        signalled = signalled || (g_trace.calls[i].delivered && g_trace.calls[i].sig != 0);
-    }
-    for (int i = 0; signalled && i < 2000 && syscall(SYS_kill, standin, 0) == 0; ++i) {
+    for (int i = 0; g_trace->signalled && i < 2000 && syscall(SYS_kill, standin, 0) == 0; ++i) {
         const timespec ms = {0, 1000000};
         nanosleep(&ms, nullptr);
     }
-    g_trace.target_alive_after = syscall(SYS_kill, standin, 0) == 0;
+    g_trace->target_alive_after = syscall(SYS_kill, standin, 0) == 0;
     syscall(SYS_kill, standin, SIGKILL);
-    WriteAll(out_fd, &g_trace, sizeof g_trace);
     _exit(0);
 }
 
@@ -171,125 +110,79 @@ extern "C" int kill(pid_t pid, int sig)
     if (!g_armed) {
         return static_cast<int>(syscall(SYS_kill, pid, sig));
     }
-    Call call = {1, pid, sig, 0, 0};
-    long r = -1;
-    if (pid > 0 && pid == g_target) {
-        r = syscall(SYS_kill, pid, sig);
-        call.delivered = r == 0;
-        call.error = r == 0 ? 0 : errno;
-    } else {
-        call.error = ESRCH;
-    }
-    Record(call);
-    errno = call.error;
+    const bool ours = pid > 0 && pid == g_trace->target_pid;
+    const long r = ours ? syscall(SYS_kill, pid, sig) : -1;
+    g_trace->signalled = g_trace->signalled || (r == 0 && sig != 0);
+    g_trace->calls[g_trace->count++ % kMaxCalls] = Call{pid, sig, g_trace->sleeps};
+    errno = ours ? errno : ESRCH;
     return r == 0 ? 0 : -1;
 }
 
 extern "C" unsigned int sleep(unsigned int seconds)
 {
+    const timespec wait = {g_armed ? 0 : static_cast<time_t>(seconds), g_armed ? 1000000 : 0};
     if (g_armed) {
-        Record(Call{0, 0, static_cast<int>(seconds), 0, 0});
-        const timespec ms = {0, 1000000};
-        nanosleep(&ms, nullptr);
-        return 0;
+        ++g_trace->sleeps;
     }
-    timespec left = {static_cast<time_t>(seconds), 0};
-    while (nanosleep(&left, &left) != 0 && errno == EINTR) {
-    }
+    nanosleep(&wait, nullptr);
     return 0;
 }
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static fuzzsupport::ScratchDir scratch;
-    static const std::string home = scratch.path() + "/home";
-    static const std::string pid_file = home + "/.Calderix/ui.pid";
-    static bool prepared = false;
+    static fuzzsupport::ScratchDir home;
+    static const std::string pid_file = home.path() + "/.Calderix/ui.pid";
+    static const bool prepared =
+        mkdir((home.path() + "/.Calderix").c_str(), 0700) == 0 && setenv("HOME", home.path().c_str(), 1) == 0;
+    static void* const shared =
+        mmap(nullptr, sizeof(Trace), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     static bool namespaces = true;
-    if (!prepared) {
-        fuzzsupport::MakeDirs(home + "/.Calderix");
-        setenv("HOME", home.c_str(), 1);
-        prepared = true;
-    }
+    FUZZ_CHECK(prepared && shared != MAP_FAILED, "cannot prepare %s: %s", pid_file.c_str(),
+               std::strerror(errno));
     fuzzsupport::WriteFile(pid_file, data, size);
-    const std::string content(reinterpret_cast<const char*>(data), size);
-    const pid_t expected = ExpectedPid(pid_file);
-
-    if (!namespaces && expected > 0 && (kill(expected, 0) == 0 || errno == EPERM)) {
+    const std::string named = NamedPid(pid_file);
+    const long number = std::strtol(named.c_str(), nullptr, 10);
+    if (!namespaces && number > 0 && number <= INT_MAX &&
+        (kill(static_cast<pid_t>(number), 0) == 0 || errno == EPERM)) {
         return 0; // would name a real process outside any namespace
     }
 
-    int fds[2];
-    FUZZ_CHECK(pipe(fds) == 0, "pipe: %s", std::strerror(errno));
+    g_trace = new (shared) Trace();
     const pid_t child = fork();
     FUZZ_CHECK(child >= 0, "fork: %s", std::strerror(errno));
     if (child == 0) {
-        close(fds[0]);
         prctl(PR_SET_PDEATHSIG, SIGKILL);
         if (unshare(CLONE_NEWPID) != 0) {
-            RunStop(fds[1], false);
+            RunStop(false);
         }
         const pid_t init = fork(); // the first process of the new namespace
-        if (init < 0) _exit(5);
         if (init == 0) {
             prctl(PR_SET_PDEATHSIG, SIGKILL);
-            RunStop(fds[1], true);
+            RunStop(true);
         }
         int status = 0;
-        while (waitpid(init, &status, 0) < 0 && errno == EINTR) {
+        while (init > 0 && waitpid(init, &status, 0) < 0 && errno == EINTR) {
         }
-        _exit(WIFEXITED(status) ? WEXITSTATUS(status) : 6);
+        _exit(init > 0 && WIFEXITED(status) ? WEXITSTATUS(status) : 5);
     }
-    close(fds[1]);
-    Trace trace;
-    size_t got = 0;
-    while (got < sizeof trace) {
-        const ssize_t n = read(fds[0], reinterpret_cast<char*>(&trace) + got, sizeof trace - got);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) break;
-        got += static_cast<size_t>(n);
-    }
-    close(fds[0]);
     int status = 0;
     while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
-    FUZZ_CHECK(got == sizeof trace && WIFEXITED(status) && WEXITSTATUS(status) == 0,
-               "the stop sequence's process ended with status 0x%x after %zu of %zu trace bytes, pid file %s", status,
-               got, sizeof trace, Show(content).c_str());
-    if (!trace.in_namespace && namespaces) {
-        namespaces = false;
-        std::fprintf(stderr, "fuzz_pidfile: no new PID namespace permitted; skipping pids of existing processes\n");
-    }
-
-    FUZZ_CHECK(!trace.overflow, "StopService made more than %d kill and sleep calls, pid file %s", kMaxCalls,
-               Show(content).c_str());
-    int kills = 0;
-    int sleeps = 0;
+    const Trace& trace = *g_trace;
+    FUZZ_CHECK(WIFEXITED(status) && WEXITSTATUS(status) == 0 && trace.count <= kMaxCalls,
+               "the stop sequence's process ended with status 0x%x after %d kill calls", status, trace.count);
+    namespaces = namespaces && trace.in_namespace;
     for (int i = 0; i < trace.count; ++i) {
         const Call& c = trace.calls[i];
-        if (!c.is_kill) {
-            ++sleeps;
-            continue;
-        }
-        ++kills;
-        FUZZ_CHECK(c.pid > 0, "StopService sent signal %d to %d (a process group or every process), pid file %s",
-                   c.sig, c.pid, Show(content).c_str());
-        FUZZ_CHECK(c.pid == expected, "StopService sent signal %d to %d, but the pid file %s names %d", c.sig, c.pid,
-                   Show(content).c_str(), expected);
-        const int want_sig = kills == 1 ? SIGTERM : (sleeps == 5 ? SIGKILL : 0);
-        FUZZ_CHECK(c.sig == want_sig, "call %d of StopService sent signal %d after %d sleeps, expected %d", i, c.sig,
-                   sleeps, want_sig);
+        FUZZ_CHECK(c.pid > 0 && std::to_string(c.pid) == named,
+                   "StopService sent signal %d to %d, the pid file names \"%s\"", c.sig, c.pid,
+                   named.c_str());
+        const int want = i == 0 ? SIGTERM : (c.sleeps == 5 ? SIGKILL : 0);
+        FUZZ_CHECK(c.sig == want, "kill %d of StopService sent signal %d after %d sleeps, expected %d", i + 1,
+                   c.sig, c.sleeps, want);
     }
-    if (expected == 0) {
-        FUZZ_CHECK(trace.count == 0, "StopService made %d calls although the pid file %s names no process",
-                   trace.count, Show(content).c_str());
-    } else {
-        FUZZ_CHECK(kills >= 1 && sleeps <= 5, "StopService made %d kill and %d sleep calls for pid %d", kills, sleeps,
-                   expected);
-    }
-    if (expected == trace.target_pid) {
-        FUZZ_CHECK(!trace.target_alive_after, "the stand-in (pid %d) outlived StopService, pid file %s", expected,
-                   Show(content).c_str());
-    }
+    FUZZ_CHECK(trace.sleeps <= 5, "StopService slept %d times", trace.sleeps);
+    FUZZ_CHECK(named != std::to_string(trace.target_pid) || (trace.count > 0 && !trace.target_alive_after),
+               "the stand-in (pid %d) that the pid file names outlived StopService", trace.target_pid);
     return 0;
 }
