@@ -1,7 +1,8 @@
-// Linked into the service driver in place of the C library's kill and
-// sleep: each call is still made, and also written as a line to the file
-// named by SERVICE_TRACE_FILE. A trace that cannot be written ends the
-// driver, so that a test never reads a short trace.
+// Preloaded into the launcher in place of the C library's kill and sleep:
+// each call is still made, and also written as a line to the file named by
+// SERVICE_TRACE_FILE. A trace that cannot be written ends the launcher, so
+// that a test never reads a short trace. The programs the launcher starts
+// run untraced.
 #define _GNU_SOURCE
 #include <errno.h>
 #include <fcntl.h>
@@ -12,6 +13,11 @@
 #include <sys/syscall.h>
 #include <time.h>
 #include <unistd.h>
+
+__attribute__((constructor)) static void Untrace(void)
+{
+    unsetenv("LD_PRELOAD");
+}
 
 __attribute__((format(printf, 1, 2))) static void trace(const char* fmt, ...)
 {

@@ -1,88 +1,90 @@
-// The parts of the service that need no launcher bundle, called in-process:
-// the recursive copy, the launch through an injected Launch Services, and
-// the Linux Launch Services themselves.
+// The parts of the service that need no launcher run, called in-process
+// with the fixture's home: the user's paths, the recursive copy, the launch
+// through an injected Launch Services, and the Linux Launch Services.
 #include <algorithm>
-#include <cerrno>
-#include <climits>
-#include <cstdlib>
-#include <cstring>
-#include <string>
-#include <vector>
+#include <filesystem>
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
+#include "calderix-service.h"
 #include "launch_services.h"
 #include "log.h"
 #include "mac/mac-service.h"
+#include "reliability_fixture.h"
 #include "service_fixture.h"
-#include "test_support.h"
 
-using servicetest::Snapshot;
-using ::testing::Return;
+using namespace testsupport;
 using Strings = std::vector<std::string>;
 
 namespace {
 
-// A fake home and a log with the service's messages at every level.
-class ServiceUnit : public ::testing::Test {
+// The fixture's home for this process, and a log with the service's
+// messages at every level.
+class ServiceUnit : public LauncherFixture {
 protected:
     void SetUp() override
     {
-        char real[PATH_MAX];
-        ASSERT_NE(realpath(dir_.path().c_str(), real), nullptr) << dir_.path() << ": " << strerror(errno);
-        root_ = real;
-        ASSERT_TRUE(testsupport::MakeDirs(root_ + "/home"));
-        ASSERT_TRUE(testsupport::WriteFile(root_ + "/levels", "service_debug=7\n"));
-        const char* home = getenv("HOME");
-        saved_home_ = home != nullptr ? home : "";
-        setenv("HOME", (root_ + "/home").c_str(), 1);
-        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, log_.c_str(), (root_ + "/levels").c_str(), 50), 0);
+        LauncherFixture::SetUp();
+        UseFixtureEnvironment();
+        ASSERT_TRUE(WriteFile(root_ + "/levels", "service_debug=7\n")) << strerror(errno);
+        ASSERT_EQ(Logger::Initialize(Logger::TYPE_FILE, Log().c_str(), (root_ + "/levels").c_str(), 50), 0);
     }
 
     void TearDown() override
     {
         Logger::Destroy();
-        setenv("HOME", saved_home_.c_str(), 1);
+        LauncherFixture::TearDown();
     }
 
-    Strings Lines() const
-    {
-        return servicetest::ServiceLines(testsupport::ReadFile(log_), {{root_, "<root>"}});
-    }
-
-    testsupport::TempDir dir_{"calderix-service-unit"};
-    std::string root_, saved_home_;
-    std::string log_ = dir_ / "service.log";
+    std::string Log() const { return root_ + "/unit.log"; }
 };
 
-} // namespace
+struct HomeCase {
+    const char* name;
+    const char* home;
+    const char* install;
+};
 
-// ------------------------------------------------------------------ FSCopyPath
+class UserPaths : public ServiceUnit, public ::testing::WithParamInterface<HomeCase> {};
+
+TEST_P(UserPaths, ComposedFromHome)
+{
+    const HomeCase& c = GetParam();
+    ASSERT_TRUE(env_.Set("HOME", c.home)) << strerror(errno);
+    const std::string install = c.install;
+    EXPECT_EQ(Service::GetUserCalderixInstallPath().c_str(), install);
+    EXPECT_EQ(Service::GetUserCalderixAppInstallPath().c_str(), install + "/Calderix.app");
+    EXPECT_EQ(Service::GetUserCalderixDataInstallPath().c_str(), install + "/data");
+}
+
+// Joined, not normalised: a home of "/" keeps its slash.
+INSTANTIATE_TEST_SUITE_P(Homes, UserPaths,
+                         ::testing::Values(HomeCase{"Plain", "/Users/user1", "/Users/user1/.Calderix"},
+                                           HomeCase{"TrailingSlash", "/Users/user1/",
+                                                    "/Users/user1/.Calderix"},
+                                           HomeCase{"Root", "/", "//.Calderix"},
+                                           HomeCase{"SpaceAndAccent", "/home/Zo\xc3\xab Smith",
+                                                    "/home/Zo\xc3\xab Smith/.Calderix"}),
+                         servicetest::RowName<HomeCase>);
 
 TEST_F(ServiceUnit, CopyPathReproducesTheTree)
 {
-    const std::string src = root_ + "/src";
-    ASSERT_TRUE(testsupport::MakeDirs(src + "/sub/deeper"));
-    ASSERT_TRUE(testsupport::MakeDirs(src + "/empty"));
-    ASSERT_TRUE(testsupport::WriteFile(src + "/.hidden", "dot file"));
-    ASSERT_TRUE(testsupport::WriteFile(src + "/sub/b.txt", ""));
-    ASSERT_TRUE(testsupport::WriteFile(src + "/sub/deeper/c.bin", servicetest::NoiseBytes(100000)));
+    const std::string src = root_ + "/src", dst = root_ + "/dst";
+    ASSERT_TRUE(MakeDirs(src + "/sub/deeper") && MakeDirs(src + "/empty") &&
+                WriteFile(src + "/.hidden", "dot") && WriteFile(src + "/sub/b.txt", "") &&
+                WriteFile(src + "/sub/deeper/c.bin", std::string(100000, 'c')))
+        << strerror(errno);
 
     MacService service;
-    EXPECT_EQ(service.FSCopyPath(src, root_ + "/dst"), 0);
-    EXPECT_EQ(Snapshot(root_ + "/dst"), Snapshot(src));
-    Strings lines = Lines();
+    EXPECT_EQ(service.FSCopyPath(src, dst), 0);
+    EXPECT_EQ(reliability::Snapshot(dst), reliability::Snapshot(src));
+    Strings lines = launchertest::LogLines(ReadFile(Log()));
     std::sort(lines.begin(), lines.end()); // in the order of the folder listing
-    EXPECT_EQ(lines,
-              (Strings{"[DEBUG] calderix-service(%d): copy from '<root>/src' to '<root>/dst'",
-                       "[DEBUG] calderix-service(%d): copy from '<root>/src/empty' to '<root>/dst/empty'",
-                       "[DEBUG] calderix-service(%d): copy from '<root>/src/sub' to '<root>/dst/sub'",
-                       "[DEBUG] calderix-service(%d): copy from '<root>/src/sub/deeper' to "
-                       "'<root>/dst/sub/deeper'"}));
+    const auto copy = [&](const std::string& rel) {
+        return "[DEBUG] calderix-service(%d): copy from '" + src + rel + "' to '" + dst + rel + "'";
+    };
+    EXPECT_EQ(lines, (Strings{copy(""), copy("/empty"), copy("/sub"), copy("/sub/deeper")}));
 }
-
-// ------------------------------------------------------------------ launch through a fake
 
 class FakeLaunchServices : public platform::LaunchServices {
 public:
@@ -94,80 +96,65 @@ public:
 // failure is logged (without a line feed) and the bundle is opened all the same.
 TEST_F(ServiceUnit, LaunchOpensTheBundleAlsoWhenUnregisteringFails)
 {
-    const std::string bundle = root_ + "/home/.Calderix/Calderix.app";
     FakeLaunchServices fake;
     ::testing::InSequence order;
-    EXPECT_CALL(fake, Unregister(bundle)).WillOnce(Return(1));
-    EXPECT_CALL(fake, Open(bundle)).WillOnce(Return(0));
+    EXPECT_CALL(fake, Unregister(app_)).WillOnce(::testing::Return(1));
+    EXPECT_CALL(fake, Open(app_)).WillOnce(::testing::Return(0));
     MacService service(fake);
     EXPECT_EQ(service.LaunchPerUserBin(), 0);
-    const std::string log = testsupport::ReadFile(log_);
+    const std::string log = ReadFile(Log());
     EXPECT_TRUE(!log.empty() && log.back() != '\n') << "the message has no line feed of its own: " << log;
-    EXPECT_EQ(
-        Lines(),
-        Strings{"[ERROR] mac/mac-service(%d): Cannot unregister bundle, <root>/home/.Calderix/Calderix.app"});
+    EXPECT_EQ(launchertest::LogLines(log),
+              Strings{"[ERROR] mac/mac-service(%d): Cannot unregister bundle, " + app_});
 }
-
-// ------------------------------------------------------------------ Linux Launch Services
 
 struct OpenCase {
     const char* name;
     const char* plist;   // CFBundleExecutable; null: no Info.plist
-    Strings files;       // in Contents/MacOS: "x*" the stand-in UI, "x!" an executable that is no
-                         // program, "x/" a folder, "x" a plain file
+    Strings files;       // in Contents/MacOS: "x*" the demo user interface, "x!" an executable that
+                         // is no program, "x/" a folder, "x" a plain file
     const char* started; // the file that runs afterwards; null: none
     int error;
 };
 
-// A user bundle in a fresh folder; whatever a test starts from it is
-// killed at the end.
-class LinuxOpen : public ServiceUnit, public ::testing::WithParamInterface<OpenCase> {
-protected:
-    void TearDown() override
-    {
-        unsetenv("STANDIN_INFO");
-        for (const auto& entry : Snapshot(macos_)) {
-            servicetest::KillAllRunning(macos_ + "/" + entry.first);
-        }
-        ServiceUnit::TearDown();
-    }
+class LinuxOpen : public ServiceUnit, public ::testing::WithParamInterface<OpenCase> {};
 
-    std::string macos_ = dir_ / "User.app/Contents/MacOS";
-};
-
-TEST_P(LinuxOpen, StartsTheBundlesExecutableOrSaysWhyNot)
+// The user's bundle; a program started from it announces itself in ui.pid.
+TEST_P(LinuxOpen, StartsTheBundlesExecutableOnceOrSaysWhyNot)
 {
     const OpenCase& c = GetParam();
-    const std::string standin = testsupport::ReadFile(STANDIN_PATH), info = dir_ / "started.info";
-    ASSERT_FALSE(standin.empty()) << STANDIN_PATH;
-    ASSERT_TRUE(testsupport::MakeDirs(macos_)) << macos_ << ": " << strerror(errno);
+    const std::string macos = app_ + "/Contents/MacOS";
+    ASSERT_TRUE(MakeDirs(macos)) << macos << ": " << strerror(errno);
     if (c.plist != nullptr) {
-        ASSERT_TRUE(testsupport::WriteFile(
-            dir_ / "User.app/Contents/Info.plist",
-            "<plist version=\"1.0\">\n<dict>\n\t<key>CFBundleName</key><string>U</string>\n"
-            "\t<key>CFBundleExecutable</key>\n\t<!-- the program -->\n\t<string>" +
-                std::string(c.plist) + "</string>\n</dict>\n</plist>\n"));
+        ASSERT_TRUE(WriteFile(app_ + "/Contents/Info.plist",
+                              "<plist version=\"1.0\">\n<dict>\n\t<key>CFBundleName</key><string>U</string>\n"
+                              "\t<key>CFBundleExecutable</key>\n\t<!-- the program -->\n\t<string>" +
+                                  std::string(c.plist) + "</string>\n</dict>\n</plist>\n"));
     }
     for (const std::string& f : c.files) {
-        const std::string path = macos_ + "/" + f.substr(0, f.find_first_of("*!/"));
-        ASSERT_TRUE(f.back() == '/' ? testsupport::MakeDirs(path)
-                    : f.back() == '*'
-                        ? testsupport::WriteFile(path, standin, 0755)
-                        : testsupport::WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
+        const std::string path = macos + "/" + f.substr(0, f.find_first_of("*!/"));
+        ASSERT_TRUE(f.back() == '/'   ? MakeDirs(path)
+                    : f.back() == '*' ? CopyTree(DEMO_UI_PATH, path)
+                                      : WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
             << path << ": " << strerror(errno);
     }
-    setenv("STANDIN_INFO", info.c_str(), 1); // the started program inherits it
-    unsetenv("STANDIN_PID_FILE");
 
-    const int r = platform::SystemLaunchServices().Open(dir_ / "User.app");
+    const int r = platform::SystemLaunchServices().Open(app_);
     EXPECT_EQ(r, c.error) << "got " << strerror(r) << ", want " << strerror(c.error);
     if (c.started == nullptr) {
-        EXPECT_FALSE(testsupport::Exists(info)) << "something was started";
+        EXPECT_TRUE(launchertest::ProcessesBelow(root_).empty()) << "something was started";
         return;
     }
-    const pid_t ui = servicetest::WaitForPidFile(info);
+    const pid_t ui = WaitForUi();
     ASSERT_GT(ui, 0) << "nothing came up";
-    EXPECT_EQ(servicetest::ProcessesRunning(macos_ + "/" + c.started), std::vector<pid_t>{ui});
+    EXPECT_EQ(platform::SystemLaunchServices().Open(app_), 0) << "opened again";
+    EXPECT_EQ(launchertest::ProcessesBelow(root_),
+              (std::vector<std::pair<pid_t, std::string>>{{ui, macos + "/" + c.started}}))
+        << "not started exactly once";
+    std::error_code ec;
+    EXPECT_EQ(std::filesystem::read_symlink("/proc/" + std::to_string(ui) + "/cwd", ec), macos)
+        << ec.message();
+    EXPECT_NE(getsid(ui), getsid(0)) << "not detached from our session";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -182,3 +169,5 @@ INSTANTIATE_TEST_SUITE_P(
         // Only the exec itself can tell: the child has to report it.
         OpenCase{"NotAProgram", "ui", {"ui!"}, nullptr, ENOEXEC}),
     servicetest::RowName<OpenCase>);
+
+} // namespace
