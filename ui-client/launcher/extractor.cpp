@@ -61,11 +61,17 @@ const char* ExtractErrorText(archive* in, archive* out)
     return text != nullptr ? text : ErrorText(in);
 }
 
-// A read handle on path with every filter and format enabled, positioned
-// before the first header; null, after logging why, when the handle cannot
-// be created or the archive cannot be opened.
-ReadHandle OpenForScan(const ustring& path)
+// For Count and List: a read handle on path with every filter and format
+// enabled, positioned before the first header; null, after logging why,
+// when either path is empty, the handle cannot be created or the archive
+// cannot be opened.
+ReadHandle OpenForScan(const ustring& dest_dir, const ustring& path)
 {
+    if (dest_dir.empty() || path.empty()) {
+        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
+                       __LINE__);
+        return nullptr;
+    }
     ReadHandle in(archive_read_new());
     if (!in) {
         Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Allocate archive failed\n",
@@ -135,12 +141,7 @@ int WriteEntries(archive* in, archive* out, const ustring& dest_dir, int total)
 
 int Extractor::Count()
 {
-    if (dest_dir.empty() || archive_path.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
-                       __LINE__);
-        return -1;
-    }
-    ReadHandle in = OpenForScan(archive_path);
+    ReadHandle in = OpenForScan(dest_dir, archive_path);
     if (!in) {
         return -1;
     }
@@ -157,12 +158,7 @@ int Extractor::Count()
 
 int Extractor::List()
 {
-    if (dest_dir.empty() || archive_path.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
-                       __LINE__);
-        return -1;
-    }
-    ReadHandle in = OpenForScan(archive_path);
+    ReadHandle in = OpenForScan(dest_dir, archive_path);
     if (!in) {
         return -1;
     }
