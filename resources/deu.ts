@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Beenden</translation>
     </message>
     <message>
         <source>Calderix Drive keeps the files on this computer in sync with your NAS. Click Start Now to pair this computer with your NAS.</source>
@@ -21,75 +21,75 @@
     </message>
     <message>
         <source>Uploading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird hochgeladen</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Seite</translation>
     </message>
     <message>
         <source>You can create no more than %1 sharing links.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie können höchstens %1 Freigabelinks erstellen.</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die größer als %1 MB sind, werden nicht synchronisiert.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung bei Bedarf</translation>
     </message>
     <message>
         <source>The selected folder cannot be used as a sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ausgewählte Ordner kann nicht als Synchronisierungsordner verwendet werden. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Sync temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporäre Dateien synchronisieren</translation>
     </message>
     <message>
         <source>Farrowlink relay</source>
-        <translation type="unfinished"></translation>
+        <translation>Farrowlink-Relay</translation>
     </message>
     <message>
         <source>Keep both files and rename the conflicting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Beide Dateien behalten und die kollidierende Datei umbenennen</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ermöglicht das Ändern der Installationsart von Funktionen.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Drucken</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Calderix Drive is installed on your computer, repair it, or remove it. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem Setup-Assistenten können Sie die Installation von Calderix Drive auf Ihrem Computer ändern, reparieren oder entfernen. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>%1 shared a folder with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat einen Ordner für Sie freigegeben.</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Fertigstellen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Choose a different local folder or a different shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen anderen lokalen Ordner oder einen anderen freigegebenen Ordner auf dem NAS.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Setup ist abgeschlossen.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzahl der Zugriffe begrenzen</translation>
     </message>
     <message>
         <source>October</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>A sharing link cannot be created for this item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für dieses Element kann kein Freigabelink erstellt werden.</translation>
     </message>
     <message>
         <source>Server address details</source>
-        <translation type="unfinished"></translation>
+        <translation>Details zur Serveradresse</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -113,23 +113,23 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the setting on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Synchronisierungsrichtung dieses Ordners stimmt nicht mit der Einstellung auf dem NAS überein.</translation>
     </message>
     <message>
         <source>You need administrator rights to install Calderix Drive. Do you want to continue anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie benötigen Administratorrechte, um Calderix Drive zu installieren. Möchten Sie trotzdem fortfahren?</translation>
     </message>
     <message>
         <source>This folder overlaps with an existing sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner überschneidet sich mit einem vorhandenen Synchronisierungsordner. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Sync Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibgeschützt</translation>
     </message>
     <message>
         <source>Add</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space or ask your administrator for a larger quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Speicherkontingent auf dem NAS ist erschöpft. Geben Sie Speicherplatz frei oder bitten Sie Ihren Administrator um ein größeres Kontingent.</translation>
     </message>
     <message>
         <source>Automatic connection was cancelled by the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die automatische Verbindung wurde vom Administrator abgebrochen.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -161,19 +161,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive-Setup wurde vorzeitig beendet</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ungültiger Parameter.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. You can close them and click Retry, or click Ignore to continue anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die vom Setup aktualisiert werden müssen. Sie können sie schließen und auf „Wiederholen“ klicken oder auf „Ignorieren“ klicken, um trotzdem fortzufahren.</translation>
     </message>
     <message>
         <source>This folder is being indexed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner wird gerade indiziert.</translation>
     </message>
     <message>
         <source>November</source>
@@ -185,23 +185,23 @@
     </message>
     <message>
         <source>Download History</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Verlauf</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Zusammenfassung</translation>
     </message>
     <message>
         <source>Merge files from both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien beider Seiten zusammenführen</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Einführung anzeigen</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner ändern</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Change Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner ändern</translation>
     </message>
     <message>
         <source>About Calderix Drive</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Files excluded from sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Synchronisierung ausgeschlossene Dateien</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -241,19 +241,19 @@
     </message>
     <message>
         <source>There is not enough free space on the disk of this folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger dieses Ordners ist nicht genügend Speicherplatz frei. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenträger voll</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsmodus</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>Stichwort</translation>
     </message>
     <message>
         <source>Done</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Changes made by other computers on a network drive may not be detected right away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen, die andere Computer auf einem Netzlaufwerk vornehmen, werden möglicherweise nicht sofort erkannt.</translation>
     </message>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie einen Benutzernamen ein.</translation>
     </message>
     <message>
         <source>Checking your user name and password...</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzername und Passwort werden überprüft...</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>Shared folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigegebener Ordner</translation>
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space before syncing this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Speicherkontingent auf dem NAS ist erschöpft. Geben Sie Speicherplatz frei, bevor Sie diesen Ordner synchronisieren.</translation>
     </message>
     <message>
         <source>The server replied with an unexpected response.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat eine unerwartete Antwort gesendet.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie höchstens %1 Zeichen ein.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner ändern</translation>
     </message>
     <message>
         <source>Folders you deselect will be removed from this computer but stay on the NAS. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner, deren Auswahl Sie aufheben, werden von diesem Computer entfernt, bleiben aber auf dem NAS erhalten. Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>Open Calderix Drive</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beschreibung</translation>
     </message>
     <message>
         <source>Maximum file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximale Dateigröße</translation>
     </message>
     <message>
         <source>This version of Calderix Drive is too old for the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version von Calderix Drive ist für das NAS zu alt. Bitte aktualisieren Sie Calderix Drive.</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -353,15 +353,15 @@
     </message>
     <message>
         <source>Stop the version download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download der Version abbrechen</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>%1 shared the folder %2 with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 hat den Ordner %2 für Sie freigegeben.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -369,19 +369,19 @@
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner nicht leer</translation>
     </message>
     <message>
         <source>&amp;Close the applications and attempt to restart them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendungen &amp;schließen und versuchen, sie neu zu starten.</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Keep conflicting files in a separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Kollidierende Dateien in einem separaten Ordner aufbewahren</translation>
     </message>
     <message>
         <source>July</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist ein Einhängepunkt und kann nicht als Synchronisierungsordner verwendet werden.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächste %1 Seiten</translation>
     </message>
     <message>
         <source>There are no records to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es sind keine Einträge vorhanden.</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsaufgaben</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird getestet...</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this sync task? The files on this computer and on the NAS will be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Verknüpfung dieser Synchronisierungsaufgabe wirklich aufheben? Die Dateien auf diesem Computer und auf dem NAS bleiben erhalten.</translation>
     </message>
     <message>
         <source>Connecting...</source>
@@ -417,19 +417,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely because of an error. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Calderix Drive-Setup wurde aufgrund eines Fehlers vorzeitig beendet. Ihr System wurde nicht geändert. Um dieses Programm zu einem späteren Zeitpunkt zu installieren, führen Sie den Setup-Assistenten erneut aus.</translation>
     </message>
     <message>
         <source>A secure connection to the NAS could not be established.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es konnte keine sichere Verbindung zum NAS hergestellt werden.</translation>
     </message>
     <message>
         <source>Sync direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsrichtung</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsproblem</translation>
     </message>
     <message>
         <source>Information</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Files on this computer that conflict with files on the NAS will be renamed and kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien auf diesem Computer, die mit Dateien auf dem NAS kollidieren, werden umbenannt und beibehalten.</translation>
     </message>
     <message>
         <source>Get sharing link</source>
@@ -465,19 +465,19 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionskonflikt</translation>
     </message>
     <message>
         <source>Failed to download %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht heruntergeladen werden.</translation>
     </message>
     <message>
         <source>The disk of this computer is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger dieses Computers ist voll.</translation>
     </message>
     <message>
         <source>Please update the NAS package to use selective sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte aktualisieren Sie das NAS-Paket, um die selektive Synchronisierung zu verwenden.</translation>
     </message>
     <message>
         <source>The user name or password is incorrect.</source>
@@ -485,87 +485,87 @@
     </message>
     <message>
         <source>This sync folder belongs to a different NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Synchronisierungsordner gehört zu einem anderen NAS.</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsstatus-Symbole auf Dateien und Ordnern anzeigen</translation>
     </message>
     <message>
         <source>Setup was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Setup wurde unterbrochen.</translation>
     </message>
     <message>
         <source>The folder %1 is not empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 ist nicht leer.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einrichtung wird abgeschlossen...</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>On-demand sync could not be enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Synchronisierung bei Bedarf konnte nicht aktiviert werden.</translation>
     </message>
     <message>
         <source>The download was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download wurde abgebrochen.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion</translation>
     </message>
     <message>
         <source>A new sync task will be created for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für %1 wird eine neue Synchronisierungsaufgabe erstellt.</translation>
     </message>
     <message>
         <source>Resume syncing these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung dieser Ordner fortsetzen</translation>
     </message>
     <message>
         <source>Ready to repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit zur Reparatur von Calderix Drive</translation>
     </message>
     <message>
         <source>Sync with a new NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einem neuen NAS synchronisieren</translation>
     </message>
     <message>
         <source>The certificate of the NAS could not be verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des NAS konnte nicht überprüft werden.</translation>
     </message>
     <message>
         <source>The connection ID is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Verbindungs-ID ist ungültig.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is available. Upgrade now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neuere Version von Calderix Drive ist verfügbar. Jetzt aktualisieren?</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des NAS hat sich geändert.</translation>
     </message>
     <message>
         <source>Right-click a file in your sync folder to get a sharing link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie mit der rechten Maustaste auf eine Datei in Ihrem Synchronisierungsordner, um einen Freigabelink zu erhalten.</translation>
     </message>
     <message>
         <source>The folder is not empty. Do you want to merge its contents with the folder on the NAS?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner ist nicht leer. Möchten Sie seinen Inhalt mit dem Ordner auf dem NAS zusammenführen?</translation>
     </message>
     <message>
         <source>More details</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Details</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -573,19 +573,19 @@
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den gewünschten Vorgang aus.</translation>
     </message>
     <message>
         <source>Your files, everywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Dateien, überall.</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Endbenutzer-Lizenzvertrag</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateiname</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Internet</source>
-        <translation type="unfinished"></translation>
+        <translation>Über das Internet</translation>
     </message>
     <message>
         <source>Port</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien, die aktualisiert werden müssen, werden zurzeit verwendet.</translation>
     </message>
     <message>
         <source>The set-up key has already been configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Einrichtungsschlüssel wurde bereits konfiguriert.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -613,15 +613,15 @@
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation reparieren</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation type="unfinished"></translation>
+        <translation>Verfügbar ab</translation>
     </message>
     <message>
         <source>Overwrite the file on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei auf diesem Computer überschreiben</translation>
     </message>
     <message>
         <source>Help</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie die Adresse und den Port des Proxyservers ein.</translation>
     </message>
     <message>
         <source>The selected folder is read-only. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ausgewählte Ordner ist schreibgeschützt. Bitte wählen Sie einen anderen Ordner.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relay-Verbindungen sind auf dem NAS deaktiviert.</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -645,19 +645,19 @@
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reparieren</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed since this folder was last synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des NAS hat sich seit der letzten Synchronisierung dieses Ordners geändert.</translation>
     </message>
     <message>
         <source>Create a Calderix Drive folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive-Ordner erstellen</translation>
     </message>
     <message>
         <source>Show icons on files that are not synced</source>
-        <translation type="unfinished"></translation>
+        <translation>Symbole auf nicht synchronisierten Dateien anzeigen</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -665,51 +665,51 @@
     </message>
     <message>
         <source>Restrict access</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff beschränken</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Zurück</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitraum</translation>
     </message>
     <message>
         <source>The local sync folder %1 cannot be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der lokale Synchronisierungsordner %1 wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Frühere Versionen durchsuchen</translation>
     </message>
     <message>
         <source>Detecting the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird erkannt...</translation>
     </message>
     <message>
         <source>Advanced Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Assistent für die erweiterte Einrichtung</translation>
     </message>
     <message>
         <source>Files you put in your sync folder are kept up to date on the NAS and on all your computers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien in Ihrem Synchronisierungsordner werden auf dem NAS und auf allen Ihren Computern auf dem neuesten Stand gehalten.</translation>
     </message>
     <message>
         <source>The sharing link could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Freigabelink konnte nicht gelöscht werden.</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>Server address</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveradresse</translation>
     </message>
     <message>
         <source>Installing Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive wird installiert</translation>
     </message>
     <message>
         <source>User name</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -729,23 +729,23 @@
     </message>
     <message>
         <source>Connected to a different NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit einem anderen NAS verbunden</translation>
     </message>
     <message>
         <source>Share Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien freigeben</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Ä&amp;ndern</translation>
     </message>
     <message>
         <source>The local folder could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der lokale Ordner konnte nicht erstellt werden.</translation>
     </message>
     <message>
         <source>Secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichere Verbindung (SSL)</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Calderix Drive-Setup wurde unterbrochen. Ihr System wurde nicht geändert. Um dieses Programm zu einem späteren Zeitpunkt zu installieren, führen Sie den Setup-Assistenten erneut aus.</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -761,27 +761,27 @@
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Weiter &gt;</translation>
     </message>
     <message>
         <source>This item cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Element kann nicht heruntergeladen werden.</translation>
     </message>
     <message>
         <source>The local database could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die lokale Datenbank konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>Apply to all subfolders</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf alle Unterordner anwenden</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Ordner nicht synchronisieren</translation>
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wurde heruntergeladen.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Duplicate Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelte Synchronisierungsaufgabe</translation>
     </message>
     <message>
         <source>The NAS requires two-step verification for your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das NAS erfordert für Ihr Konto eine Bestätigung in zwei Schritten.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Do you want to delete this sharing link?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie diesen Freigabelink löschen?</translation>
     </message>
     <message>
         <source>Calderix Drive is already running.</source>
@@ -809,23 +809,23 @@
     </message>
     <message>
         <source>Security Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherheitswarnung</translation>
     </message>
     <message>
         <source>Open sync status</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsstatus öffnen</translation>
     </message>
     <message>
         <source>This system folder cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Systemordner kann nicht als Synchronisierungsordner verwendet werden.</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Diesen Ordner nicht synchronisieren</translation>
     </message>
     <message>
         <source>Click the Calderix Drive icon in the menu bar to see the sync status and change settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf das Calderix Drive-Symbol in der Menüleiste, um den Synchronisierungsstatus anzuzeigen und Einstellungen zu ändern.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>The certificate of the NAS could not be verified. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des NAS konnte nicht überprüft werden. Möchten Sie fortfahren?</translation>
     </message>
     <message>
         <source>This file does not belong to any connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei gehört zu keiner Verbindung.</translation>
     </message>
     <message>
         <source>Access Anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Überall zugreifen</translation>
     </message>
     <message>
         <source>December</source>
@@ -861,11 +861,11 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxyserver erfordert ein Passwort</translation>
     </message>
     <message>
         <source>Sync folder on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner auf dem NAS</translation>
     </message>
     <message>
         <source>Choose the shared folder, the local folder and the sync options yourself.</source>
@@ -873,35 +873,35 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien mit diesen Namen werden nicht synchronisiert.</translation>
     </message>
     <message>
         <source>Welcome to the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Willkommen beim Setup-Assistenten von Calderix Drive</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Felder enthalten ungültige Werte.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden übernommen...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Calderix Drive installation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Installation von Calderix Drive wirklich abbrechen?</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Calderix Drive on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Setup-Assistent installiert Calderix Drive auf Ihrem Computer. Klicken Sie auf „Weiter“, um fortzufahren, oder auf „Abbrechen“, um den Setup-Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Einhängepunkt nicht unterstützt</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -909,23 +909,23 @@
     </message>
     <message>
         <source>Folder name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnername</translation>
     </message>
     <message>
         <source>NAS overview</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-Übersicht</translation>
     </message>
     <message>
         <source>I &amp;accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Ich &amp;akzeptiere die Bedingungen des Lizenzvertrags</translation>
     </message>
     <message>
         <source>Calderix Drive status</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive-Status</translation>
     </message>
     <message>
         <source>Sync Your Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien synchronisieren</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>This version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version von Calderix Drive ist bereits installiert.</translation>
     </message>
     <message>
         <source>Remove Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive entfernen</translation>
     </message>
     <message>
         <source>September</source>
@@ -957,15 +957,15 @@
     </message>
     <message>
         <source>Anyone with the link can open the file in a web browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeder, der den Link hat, kann die Datei in einem Webbrowser öffnen.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Konto wurde auf dem NAS deaktiviert.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorieren</translation>
     </message>
     <message>
         <source>May</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation entfernen</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -981,19 +981,19 @@
     </message>
     <message>
         <source>Calderix Drive could not be upgraded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive konnte nicht aktualisiert werden.</translation>
     </message>
     <message>
         <source>Your user information could not be retrieved from the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Benutzerinformationen konnten nicht vom NAS abgerufen werden.</translation>
     </message>
     <message>
         <source>Connection type</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungstyp</translation>
     </message>
     <message>
         <source>Ready to install Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit zur Installation von Calderix Drive</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
@@ -1001,11 +1001,11 @@
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellt</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner auswählen</translation>
     </message>
     <message>
         <source>Folder selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektive Synchronisierung von Ordnern</translation>
     </message>
     <message>
         <source>February</source>
@@ -1025,23 +1025,23 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive-Setup wurde unterbrochen</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Passwort ist abgelaufen. Bitte ändern Sie es auf dem NAS.</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Bestätigungscode eingeben</translation>
     </message>
     <message>
         <source>The user name or password for the proxy server is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Benutzername oder das Passwort für den Proxyserver ist falsch.</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft ab am</translation>
     </message>
     <message>
         <source>Your files are now kept in sync with the NAS.</source>
@@ -1049,23 +1049,23 @@
     </message>
     <message>
         <source>Sharing links are not available over a Farrowlink connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigabelinks sind über eine Farrowlink-Verbindung nicht verfügbar.</translation>
     </message>
     <message>
         <source>Show Calderix Drive in the context menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive im Kontextmenü anzeigen</translation>
     </message>
     <message>
         <source>The Ostrel service is disabled on the NAS. Please ask your administrator to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ostrel-Dienst ist auf dem NAS deaktiviert. Bitten Sie Ihren Administrator, ihn zu aktivieren.</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einige Dateien konnten nicht synchronisiert werden.</translation>
     </message>
     <message>
         <source>Folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnerpfad</translation>
     </message>
     <message>
         <source>Calderix Drive is starting...</source>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Use a black-and-white menu bar icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarz-weißes Menüleistensymbol verwenden</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>This shared folder is already synced to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser freigegebene Ordner wird bereits mit einem anderen Ordner synchronisiert.</translation>
     </message>
     <message>
         <source>General</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Open your synced files from any computer paired with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Öffnen Sie Ihre synchronisierten Dateien auf jedem Computer, der mit dem NAS gekoppelt ist.</translation>
     </message>
     <message>
         <source>The link to the file could not be retrieved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Link zur Datei konnte nicht abgerufen werden.</translation>
     </message>
     <message>
         <source>No proxy</source>
@@ -1121,11 +1121,11 @@
     </message>
     <message>
         <source>This field cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Feld darf nicht leer sein.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Wiederholen</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>Checking for changes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen werden gesucht...</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1145,31 +1145,31 @@
     </message>
     <message>
         <source>Remote destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Entferntes Ziel</translation>
     </message>
     <message>
         <source>Read-only Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreibgeschützter Ordner</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation ändern, reparieren oder entfernen</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuer Synchronisierungsordner</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordnerliste wird geladen...</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated by this setup. Close these applications and click Retry to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die folgenden Anwendungen verwenden Dateien, die von diesem Setup aktualisiert werden müssen. Schließen Sie diese Anwendungen und klicken Sie auf „Wiederholen“, um fortzufahren.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1181,39 +1181,39 @@
     </message>
     <message>
         <source>Connect through Farrowlink</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Farrowlink verbinden</translation>
     </message>
     <message>
         <source>A file with the same name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei mit demselben Namen ist bereits vorhanden.</translation>
     </message>
     <message>
         <source>Create a new folder to sync with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Erstellen Sie einen neuen Ordner, der mit dem NAS synchronisiert werden soll.</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed. Do you trust the new certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des NAS hat sich geändert. Vertrauen Sie dem neuen Zertifikat?</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Versionen dieser Datei können nicht aufgelistet werden.</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateinamen hinzufügen</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 wird heruntergeladen...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu viele fehlgeschlagene Versuche. Bitte versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>April</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Sharing enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigabe aktiviert</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computername</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>Ostrel disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrel deaktiviert</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1253,15 +1253,15 @@
     </message>
     <message>
         <source>The volume of the sync folder %1 is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Volume des Synchronisierungsordners %1 ist nicht eingehängt.</translation>
     </message>
     <message>
         <source>This folder is already synced with the same shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner wird bereits mit demselben freigegebenen Ordner auf dem NAS synchronisiert.</translation>
     </message>
     <message>
         <source>Shared folder missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigegebener Ordner fehlt</translation>
     </message>
     <message>
         <source>Click to update Calderix Drive</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Use a secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichere Verbindung (SSL) verwenden</translation>
     </message>
     <message>
         <source>Open file</source>
@@ -1277,7 +1277,7 @@
     </message>
     <message>
         <source>Setup is ready to begin the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Setup ist bereit, mit der Installation zu beginnen.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1285,19 +1285,19 @@
     </message>
     <message>
         <source>When the same file has changed on both sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn dieselbe Datei auf beiden Seiten geändert wurde:</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Calderix Drive. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Reparieren“, um die Installation von Calderix Drive zu reparieren. Klicken Sie auf „Zurück“, um Ihre Installationseinstellungen zu überprüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Add Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsaufgabe hinzufügen</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorbereitung</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -1305,19 +1305,19 @@
     </message>
     <message>
         <source>This version of Calderix Drive is not supported by the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Version von Calderix Drive wird vom NAS nicht unterstützt. Bitte aktualisieren Sie Calderix Drive.</translation>
     </message>
     <message>
         <source>Enable sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung aktivieren</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben keine Berechtigung für den Zugriff auf diesen Ordner.</translation>
     </message>
     <message>
         <source>The folder %1 is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner %1 ist schreibgeschützt.</translation>
     </message>
     <message>
         <source>Upgrade Calderix Drive</source>
@@ -1325,11 +1325,11 @@
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bestätigungscode ist falsch.</translation>
     </message>
     <message>
         <source>Your files stay available even when this computer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Dateien bleiben verfügbar, auch wenn dieser Computer offline ist.</translation>
     </message>
     <message>
         <source>Checking data...</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>Log category</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollkategorie</translation>
     </message>
     <message>
         <source>Launch Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive starten</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>Upgrade failed.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Selective sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus der selektiven Synchronisierung</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien in Verwendung</translation>
     </message>
     <message>
         <source>All events</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf diesem Computer umbenannt</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1397,35 +1397,35 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Ordner, der synchronisiert werden kann.</translation>
     </message>
     <message>
         <source>Sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner</translation>
     </message>
     <message>
         <source>One-way sync (download only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einweg-Synchronisierung (nur herunterladen)</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den freigegebenen Ordner auf dem NAS aus, den Sie synchronisieren möchten.</translation>
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Im lokalen Netzwerk nach NAS-Geräten suchen</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Entfernen“, um Calderix Drive von Ihrem Computer zu entfernen. Klicken Sie auf „Zurück“, um Ihre Installationseinstellungen zu überprüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuelle Proxy-Konfiguration</translation>
     </message>
     <message>
         <source>The shared folder no longer exists on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der freigegebene Ordner ist auf dem NAS nicht mehr vorhanden.</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1433,39 +1433,39 @@
     </message>
     <message>
         <source>Stay Informed</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Laufenden bleiben</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Direktverbindung</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorherige %1 Seiten</translation>
     </message>
     <message>
         <source>More tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Tipps</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung mit %1 wird hergestellt...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie eine Portnummer zwischen 1 und 65535 ein.</translation>
     </message>
     <message>
         <source>File selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektive Synchronisierung von Dateien</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontingent erschöpft</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefinierter Zeitraum</translation>
     </message>
     <message>
         <source>Open Calderix Drive Folder</source>
@@ -1473,15 +1473,15 @@
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der freigegebene Ordner ist auf dem NAS nicht eingehängt.</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Installieren“, um mit der Installation zu beginnen. Klicken Sie auf „Zurück“, um Ihre Installationseinstellungen zu überprüfen oder zu ändern. Klicken Sie auf „Abbrechen“, um den Assistenten zu beenden.</translation>
     </message>
     <message>
         <source>The remote folder is not available because its volume is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der entfernte Ordner ist nicht verfügbar, weil sein Volume nicht eingehängt ist.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>Setup is ready to install Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Setup ist bereit, Calderix Drive zu installieren.</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Quick Setup</source>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Turning off sync for this folder removes it from the sync list. The files stay on the NAS and on this computer. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Wenn Sie die Synchronisierung für diesen Ordner ausschalten, wird er aus der Synchronisierungsliste entfernt. Die Dateien bleiben auf dem NAS und auf diesem Computer erhalten. Fortfahren?</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung dieses Ordners fortsetzen</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Seite</translation>
     </message>
     <message>
         <source>Delete Link</source>
@@ -1517,23 +1517,23 @@
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Setup abbrechen</translation>
     </message>
     <message>
         <source>A sync task for this folder already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diesen Ordner ist bereits eine Synchronisierungsaufgabe vorhanden.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner wurde von einem anderen Benutzerkonto synchronisiert.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurden keine Einstellungen geändert.</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nein</translation>
     </message>
     <message>
         <source>Sign-in failed. Please check your user name and password.</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Files that match these filters will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, die diesen Filtern entsprechen, werden nicht synchronisiert.</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS.</source>
@@ -1549,11 +1549,11 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur herunterladen</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verknüpfung wird aufgehoben...</translation>
     </message>
     <message>
         <source>Resume Syncing</source>
@@ -1561,63 +1561,63 @@
     </message>
     <message>
         <source>Completed the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Calderix Drive-Setup-Assistent wurde abgeschlossen</translation>
     </message>
     <message>
         <source>Set Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner festlegen</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installieren</translation>
     </message>
     <message>
         <source>Tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Einführung</translation>
     </message>
     <message>
         <source>Expires after %1 accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft nach %1 Zugriffen ab</translation>
     </message>
     <message>
         <source>The contents of both folders will be merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Inhalte beider Ordner werden zusammengeführt.</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten Sie, während der Setup-Assistent Calderix Drive installiert.</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Nächster Monat</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird heruntergeladen</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben keine Berechtigung, diesen Vorgang auszuführen.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts, and registry entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Behebt Fehler in der letzten Installation, indem fehlende und beschädigte Dateien, Verknüpfungen und Registrierungseinträge repariert werden.</translation>
     </message>
     <message>
         <source>Sync could not be enabled for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Synchronisierung konnte für diesen Ordner nicht aktiviert werden.</translation>
     </message>
     <message>
         <source>No previous version of this file is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für diese Datei ist keine frühere Version verfügbar.</translation>
     </message>
     <message>
         <source>Refresh the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsprotokoll aktualisieren</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Entfernen“, um Calderix Drive von Ihrem Computer zu entfernen.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1625,11 +1625,11 @@
     </message>
     <message>
         <source>Removes Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt Calderix Drive von Ihrem Computer.</translation>
     </message>
     <message>
         <source>Repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive reparieren</translation>
     </message>
     <message>
         <source>Setup Mode</source>
@@ -1637,11 +1637,11 @@
     </message>
     <message>
         <source>File extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateierweiterung</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Elemente</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1649,31 +1649,31 @@
     </message>
     <message>
         <source>No options available</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Optionen verfügbar</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Sync and share your files with your NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisieren und teilen Sie Ihre Dateien mit Ihrem NAS.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff verweigert</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Von</translation>
     </message>
     <message>
         <source>Renamed on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem NAS umbenannt</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive. This may take several minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten Sie, während der Setup-Assistent Calderix Drive installiert. Dies kann einige Minuten dauern.</translation>
     </message>
     <message>
         <source>Start Calderix Drive when I log in</source>
@@ -1681,23 +1681,23 @@
     </message>
     <message>
         <source>This wizard will guide you through the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Assistent führt Sie durch die Installation.</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateityp</translation>
     </message>
     <message>
         <source>Keep the most recently modified file</source>
-        <translation type="unfinished"></translation>
+        <translation>Die zuletzt geänderte Datei behalten</translation>
     </message>
     <message>
         <source>This computer is already paired with this NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Computer ist bereits mit diesem NAS gekoppelt.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte lesen Sie den folgenden Lizenzvertrag sorgfältig durch.</translation>
     </message>
     <message>
         <source>Calderix Drive could not be started.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>The NAS package is too old for this version of Calderix Drive. Please update the package on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das NAS-Paket ist für diese Version von Calderix Drive zu alt. Bitte aktualisieren Sie das Paket auf dem NAS.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1717,11 +1717,11 @@
     </message>
     <message>
         <source>New Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Neue Freigabe</translation>
     </message>
     <message>
         <source>Please enter the verification code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte geben Sie den Bestätigungscode ein.</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1729,11 +1729,11 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>und %1 weitere</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Zurücksetzen</translation>
     </message>
     <message>
         <source>The new language will be used after Calderix Drive restarts.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Calderix Drive is initializing...</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink from %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Verknüpfung mit %1 wirklich aufheben?</translation>
     </message>
     <message>
         <source>June</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Calderix Drive has been installed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive wurde erfolgreich installiert.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -1769,15 +1769,15 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Ich akzeptiere die Bedingungen des Lizenzvertrags &amp;nicht</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereitschaft</translation>
     </message>
     <message>
         <source>Search the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk durchsuchen</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>Synchronization mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsmodus</translation>
     </message>
     <message>
         <source>History</source>
@@ -1797,19 +1797,19 @@
     </message>
     <message>
         <source>Local sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokaler Synchronisierungsordner</translation>
     </message>
     <message>
         <source>You have chosen to remove the program from your system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie haben sich entschieden, das Programm von Ihrem System zu entfernen.</translation>
     </message>
     <message>
         <source>Calderix Drive has no independent features to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive hat keine unabhängigen Funktionen, die geändert werden können.</translation>
     </message>
     <message>
         <source>Not needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht erforderlich</translation>
     </message>
     <message>
         <source>Calderix Drive will now sync your files with the NAS.</source>
@@ -1817,27 +1817,27 @@
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Änderungen wurden nicht gespeichert. Möchten Sie sie speichern?</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache ändern</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Ziel</translation>
     </message>
     <message>
         <source>Connections from this IP address are blocked by the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindungen von dieser IP-Adresse werden vom NAS blockiert.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine neuere Version von Calderix Drive ist bereits installiert.</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Download a previous version</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine frühere Version herunterladen</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -1857,11 +1857,11 @@
     </message>
     <message>
         <source>A network error occurred while checking the sync folder. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Überprüfen des Synchronisierungsordners ist ein Netzwerkfehler aufgetreten. Bitte versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>Certificate error</source>
-        <translation type="unfinished"></translation>
+        <translation>Zertifikatfehler</translation>
     </message>
     <message>
         <source>Calderix Drive</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Click Repair to repair Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klicken Sie auf „Reparieren“, um Calderix Drive zu reparieren.</translation>
     </message>
     <message>
         <source>File</source>
@@ -1881,15 +1881,15 @@
     </message>
     <message>
         <source>Change, repair, or remove Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive ändern, reparieren oder entfernen.</translation>
     </message>
     <message>
         <source>Updated files</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisierte Dateien</translation>
     </message>
     <message>
         <source>Sync task</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsaufgabe</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1897,15 +1897,15 @@
     </message>
     <message>
         <source>Delete the downloaded version</source>
-        <translation type="unfinished"></translation>
+        <translation>Heruntergeladene Version löschen</translation>
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgeschlossene Dateien</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzerdefinierte Dauer</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your user account.</source>
@@ -1913,11 +1913,11 @@
     </message>
     <message>
         <source>Change the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Installation ändern</translation>
     </message>
     <message>
         <source>This folder is read-only. Changes are not synced to the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Ordner ist schreibgeschützt. Änderungen werden nicht mit dem NAS synchronisiert.</translation>
     </message>
     <message>
         <source>Choose Another</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Automatic connection failed because of a system error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die automatische Verbindung ist aufgrund eines Systemfehlers fehlgeschlagen.</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt geändert</translation>
     </message>
     <message>
         <source>Calderix Drive is ready.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>NAS storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-Speicher ist voll</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The storage quota of this shared folder is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Speicherkontingent dieses freigegebenen Ordners ist erschöpft.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>Incompatible version</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkompatible Version</translation>
     </message>
     <message>
         <source>Send to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>An %1 senden</translation>
     </message>
     <message>
         <source>You can change these settings at any time.</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>An error occurred during the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Während der Installation ist ein Fehler aufgetreten.</translation>
     </message>
     <message>
         <source>Pair with a NAS</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>&amp;Do not close applications. A restart will be required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwendungen &amp;nicht schließen. Ein Neustart ist erforderlich.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fertigstellen</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Übernehmen und Link kopieren</translation>
     </message>
     <message>
         <source>Pause Syncing</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a Calderix Drive folder on this computer.</source>
@@ -2017,23 +2017,23 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation type="unfinished"></translation>
+        <translation>Einweg-Download</translation>
     </message>
     <message>
         <source>Select the folder that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie den Ordner aus, den Sie synchronisieren möchten.</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorheriger Monat</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Home-Ordner-Dienst ist auf dem NAS deaktiviert.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your connection.</source>
@@ -2045,23 +2045,23 @@
     </message>
     <message>
         <source>Sharing links need the Ostrel service, which is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Freigabelinks benötigen den Ostrel-Dienst, der auf dem NAS deaktiviert ist.</translation>
     </message>
     <message>
         <source>Double-click action</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktion bei Doppelklick</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierung bei Bedarf aktivieren</translation>
     </message>
     <message>
         <source>Files whose names begin with a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien, deren Namen mit einem Punkt beginnen</translation>
     </message>
     <message>
         <source>The NAS package does not support this version of Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das NAS-Paket unterstützt diese Version von Calderix Drive nicht.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2081,15 +2081,15 @@
     </message>
     <message>
         <source>Close the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Einführung schließen</translation>
     </message>
     <message>
         <source>The shared folder %1 is already synced with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der freigegebene Ordner %1 wird bereits mit %2 synchronisiert.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Calderix Drive manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die automatische Einrichtung ist fehlgeschlagen. Bitte richten Sie Calderix Drive manuell ein.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Filter the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsprotokoll filtern</translation>
     </message>
     <message>
         <source>January</source>
@@ -2105,15 +2105,15 @@
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Berechtigung</translation>
     </message>
     <message>
         <source>Loading sync folders...</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisierungsordner werden geladen...</translation>
     </message>
     <message>
         <source>Choose what to do when setup finishes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie aus, was nach Abschluss der Einrichtung geschehen soll.</translation>
     </message>
 </context>
 </TS>
