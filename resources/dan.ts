@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Afslut</translation>
     </message>
     <message>
         <source>Calderix Drive keeps the files on this computer in sync with your NAS. Click Start Now to pair this computer with your NAS.</source>
@@ -21,75 +21,75 @@
     </message>
     <message>
         <source>Uploading</source>
-        <translation type="unfinished"></translation>
+        <translation>Uploader</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation type="unfinished"></translation>
+        <translation>Første side</translation>
     </message>
     <message>
         <source>You can create no more than %1 sharing links.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du kan højst oprette %1 delingslinks.</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer, der er større end %1 MB, synkroniseres ikke.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkronisering efter behov</translation>
     </message>
     <message>
         <source>The selected folder cannot be used as a sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den valgte mappe kan ikke bruges som synkroniseringsmappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Sync temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser midlertidige filer</translation>
     </message>
     <message>
         <source>Farrowlink relay</source>
-        <translation type="unfinished"></translation>
+        <translation>Farrowlink-relæ</translation>
     </message>
     <message>
         <source>Keep both files and rename the conflicting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Behold begge filer, og omdøb filen i konflikt</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Giver dig mulighed for at ændre, hvordan funktioner installeres.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Udskriv</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Calderix Drive is installed on your computer, repair it, or remove it. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Med installationsguiden kan du ændre, hvordan Calderix Drive er installeret på din computer, reparere det eller fjerne det. Klik på Næste for at fortsætte eller på Annuller for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>%1 shared a folder with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 har delt en mappe med dig.</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Udfør for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>Choose a different local folder or a different shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg en anden lokal mappe eller en anden delt mappe på NAS-enheden.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen er fuldført.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Til</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Begræns antallet af adgange</translation>
     </message>
     <message>
         <source>October</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>A sharing link cannot be created for this item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der kan ikke oprettes et delingslink til dette element.</translation>
     </message>
     <message>
         <source>Server address details</source>
-        <translation type="unfinished"></translation>
+        <translation>Oplysninger om serveradresse</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -113,23 +113,23 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the setting on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsretningen for denne mappe svarer ikke til indstillingen på NAS-enheden.</translation>
     </message>
     <message>
         <source>You need administrator rights to install Calderix Drive. Do you want to continue anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Du skal have administratorrettigheder for at installere Calderix Drive. Vil du fortsætte alligevel?</translation>
     </message>
     <message>
         <source>This folder overlaps with an existing sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne mappe overlapper en eksisterende synkroniseringsmappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Sync Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsmapper</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrivebeskyttet</translation>
     </message>
     <message>
         <source>Add</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space or ask your administrator for a larger quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>Din lagerkvote på NAS-enheden er opbrugt. Frigør noget plads, eller bed din administrator om en større kvote.</translation>
     </message>
     <message>
         <source>Automatic connection was cancelled by the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den automatiske forbindelse blev annulleret af administratoren.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -161,19 +161,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen af Calderix Drive blev afsluttet før tid</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ugyldig parameter.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. You can close them and click Retry, or click Ignore to continue anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Følgende programmer bruger filer, som installationen skal opdatere. Du kan lukke dem og klikke på Prøv igen eller klikke på Ignorer for at fortsætte alligevel.</translation>
     </message>
     <message>
         <source>This folder is being indexed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne mappe indekseres.</translation>
     </message>
     <message>
         <source>November</source>
@@ -185,23 +185,23 @@
     </message>
     <message>
         <source>Download History</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloadhistorik</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Oversigt</translation>
     </message>
     <message>
         <source>Merge files from both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Flet filer fra begge sider</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis introduktionen</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Skift synkroniseringsmappe</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Change Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Skift mappe</translation>
     </message>
     <message>
         <source>About Calderix Drive</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Files excluded from sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer, der er udeladt fra synkronisering</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -241,19 +241,19 @@
     </message>
     <message>
         <source>There is not enough free space on the disk of this folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der er ikke nok ledig plads på disken med denne mappe. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Disken er fuld</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringstilstand</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>Søgeord</translation>
     </message>
     <message>
         <source>Done</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Changes made by other computers on a network drive may not be detected right away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ændringer, som andre computere foretager på et netværksdrev, registreres muligvis ikke med det samme.</translation>
     </message>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast et brugernavn.</translation>
     </message>
     <message>
         <source>Checking your user name and password...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrollerer dit brugernavn og din adgangskode...</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>Shared folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Delt mappe</translation>
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space before syncing this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Din lagerkvote på NAS-enheden er opbrugt. Frigør noget plads, før du synkroniserer denne mappe.</translation>
     </message>
     <message>
         <source>The server replied with an unexpected response.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveren returnerede et uventet svar.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokalt netværk</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast højst %1 tegn.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Skift mappe</translation>
     </message>
     <message>
         <source>Folders you deselect will be removed from this computer but stay on the NAS. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapper, du fravælger, fjernes fra denne computer, men forbliver på NAS-enheden. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>Open Calderix Drive</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Beskrivelse</translation>
     </message>
     <message>
         <source>Maximum file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Maksimal filstørrelse</translation>
     </message>
     <message>
         <source>This version of Calderix Drive is too old for the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne version af Calderix Drive er for gammel til NAS-enheden. Opgrader Calderix Drive.</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -353,15 +353,15 @@
     </message>
     <message>
         <source>Stop the version download</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop download af versionen</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Mål</translation>
     </message>
     <message>
         <source>%1 shared the folder %2 with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 har delt mappen %2 med dig.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -369,19 +369,19 @@
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappen er ikke tom</translation>
     </message>
     <message>
         <source>&amp;Close the applications and attempt to restart them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Luk programmerne, og forsøg at genstarte dem.</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalender</translation>
     </message>
     <message>
         <source>Keep conflicting files in a separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Behold filer i konflikt i en separat mappe</translation>
     </message>
     <message>
         <source>July</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 er et monteringspunkt og kan ikke bruges som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Næste %1 sider</translation>
     </message>
     <message>
         <source>There are no records to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der er ingen poster at vise.</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsopgaver</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tester forbindelsen...</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this sync task? The files on this computer and on the NAS will be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Er du sikker på, at du vil fjerne tilknytningen af denne synkroniseringsopgave? Filerne på denne computer og på NAS-enheden bevares.</translation>
     </message>
     <message>
         <source>Connecting...</source>
@@ -417,19 +417,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely because of an error. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen af Calderix Drive blev afsluttet før tid på grund af en fejl. Dit system er ikke blevet ændret. Kør installationsguiden igen for at installere dette program på et senere tidspunkt.</translation>
     </message>
     <message>
         <source>A secure connection to the NAS could not be established.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der kunne ikke oprettes en sikker forbindelse til NAS-enheden.</translation>
     </message>
     <message>
         <source>Sync direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsretning</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsproblem</translation>
     </message>
     <message>
         <source>Information</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Files on this computer that conflict with files on the NAS will be renamed and kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer på denne computer, der er i konflikt med filer på NAS-enheden, omdøbes og bevares.</translation>
     </message>
     <message>
         <source>Get sharing link</source>
@@ -465,19 +465,19 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionerne stemmer ikke overens</translation>
     </message>
     <message>
         <source>Failed to download %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kunne ikke downloades.</translation>
     </message>
     <message>
         <source>The disk of this computer is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disken på denne computer er fuld.</translation>
     </message>
     <message>
         <source>Please update the NAS package to use selective sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdater NAS-pakken for at bruge selektiv synkronisering.</translation>
     </message>
     <message>
         <source>The user name or password is incorrect.</source>
@@ -485,87 +485,87 @@
     </message>
     <message>
         <source>This sync folder belongs to a different NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne synkroniseringsmappe tilhører en anden NAS.</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis synkroniseringsstatusikoner på filer og mapper</translation>
     </message>
     <message>
         <source>Setup was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen blev afbrudt.</translation>
     </message>
     <message>
         <source>The folder %1 is not empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappen %1 er ikke tom.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Afslutter opsætningen...</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>On-demand sync could not be enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkronisering efter behov kunne ikke aktiveres.</translation>
     </message>
     <message>
         <source>The download was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloaden blev stoppet.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Handling</translation>
     </message>
     <message>
         <source>A new sync task will be created for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der oprettes en ny synkroniseringsopgave for %1.</translation>
     </message>
     <message>
         <source>Resume syncing these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Genoptag synkronisering af disse mapper</translation>
     </message>
     <message>
         <source>Ready to repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Klar til at reparere Calderix Drive</translation>
     </message>
     <message>
         <source>Sync with a new NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser med en ny NAS</translation>
     </message>
     <message>
         <source>The certificate of the NAS could not be verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enhedens certifikat kunne ikke bekræftes.</translation>
     </message>
     <message>
         <source>The connection ID is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Forbindelses-id&apos;et er ugyldigt.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is available. Upgrade now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der findes en nyere version af Calderix Drive. Vil du opgradere nu?</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enhedens certifikat er ændret.</translation>
     </message>
     <message>
         <source>Right-click a file in your sync folder to get a sharing link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Højreklik på en fil i din synkroniseringsmappe for at hente et delingslink.</translation>
     </message>
     <message>
         <source>The folder is not empty. Do you want to merge its contents with the folder on the NAS?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappen er ikke tom. Vil du flette dens indhold med mappen på NAS-enheden?</translation>
     </message>
     <message>
         <source>More details</source>
-        <translation type="unfinished"></translation>
+        <translation>Flere detaljer</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Prøv igen</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -573,19 +573,19 @@
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg den handling, du vil udføre.</translation>
     </message>
     <message>
         <source>Your files, everywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dine filer, overalt.</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Slutbrugerlicensaftale</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Filnavn</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Internet</source>
-        <translation type="unfinished"></translation>
+        <translation>Via internettet</translation>
     </message>
     <message>
         <source>Port</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nogle af de filer, der skal opdateres, er i brug i øjeblikket.</translation>
     </message>
     <message>
         <source>The set-up key has already been configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opsætningsnøglen er allerede konfigureret.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -613,15 +613,15 @@
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparer installationen</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilgængelig fra</translation>
     </message>
     <message>
         <source>Overwrite the file on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Overskriv filen på denne computer</translation>
     </message>
     <message>
         <source>Help</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast proxyserverens adresse og port.</translation>
     </message>
     <message>
         <source>The selected folder is read-only. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den valgte mappe er skrivebeskyttet. Vælg en anden mappe.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Relæforbindelser er deaktiveret på NAS-enheden.</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -645,19 +645,19 @@
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reparer</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed since this folder was last synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enhedens certifikat er ændret, siden denne mappe sidst blev synkroniseret.</translation>
     </message>
     <message>
         <source>Create a Calderix Drive folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Opret en Calderix Drive-mappe</translation>
     </message>
     <message>
         <source>Show icons on files that are not synced</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis ikoner på filer, der ikke synkroniseres</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -665,51 +665,51 @@
     </message>
     <message>
         <source>Restrict access</source>
-        <translation type="unfinished"></translation>
+        <translation>Begræns adgang</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Tilbage</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation type="unfinished"></translation>
+        <translation>Datointerval</translation>
     </message>
     <message>
         <source>The local sync folder %1 cannot be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den lokale synkroniseringsmappe %1 blev ikke fundet.</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Gennemse tidligere versioner</translation>
     </message>
     <message>
         <source>Detecting the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrerer forbindelsen...</translation>
     </message>
     <message>
         <source>Advanced Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide til avanceret opsætning</translation>
     </message>
     <message>
         <source>Files you put in your sync folder are kept up to date on the NAS and on all your computers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer, du lægger i din synkroniseringsmappe, holdes opdateret på NAS-enheden og på alle dine computere.</translation>
     </message>
     <message>
         <source>The sharing link could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Delingslinket kunne ikke slettes.</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fjern</translation>
     </message>
     <message>
         <source>Server address</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveradresse</translation>
     </message>
     <message>
         <source>Installing Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Installerer Calderix Drive</translation>
     </message>
     <message>
         <source>User name</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Valgmuligheder</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -729,23 +729,23 @@
     </message>
     <message>
         <source>Connected to a different NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Forbundet til en anden NAS</translation>
     </message>
     <message>
         <source>Share Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Del filer</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>Æ&amp;ndr</translation>
     </message>
     <message>
         <source>The local folder could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den lokale mappe kunne ikke oprettes.</translation>
     </message>
     <message>
         <source>Secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sikker forbindelse (SSL)</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen af Calderix Drive blev afbrudt. Dit system er ikke blevet ændret. Kør installationsguiden igen for at installere dette program på et senere tidspunkt.</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -761,27 +761,27 @@
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Næste &gt;</translation>
     </message>
     <message>
         <source>This item cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dette element kan ikke downloades.</translation>
     </message>
     <message>
         <source>The local database could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den lokale database kunne ikke åbnes.</translation>
     </message>
     <message>
         <source>Apply to all subfolders</source>
-        <translation type="unfinished"></translation>
+        <translation>Anvend på alle undermapper</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser ikke disse mapper</translation>
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 er downloadet.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Duplicate Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Dobbelt synkroniseringsopgave</translation>
     </message>
     <message>
         <source>The NAS requires two-step verification for your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enheden kræver totrinsbekræftelse for din konto.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Do you want to delete this sharing link?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vil du slette dette delingslink?</translation>
     </message>
     <message>
         <source>Calderix Drive is already running.</source>
@@ -809,23 +809,23 @@
     </message>
     <message>
         <source>Security Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Sikkerhedsadvarsel</translation>
     </message>
     <message>
         <source>Open sync status</source>
-        <translation type="unfinished"></translation>
+        <translation>Åbn synkroniseringsstatus</translation>
     </message>
     <message>
         <source>This system folder cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne systemmappe kan ikke bruges som synkroniseringsmappe.</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser ikke denne mappe</translation>
     </message>
     <message>
         <source>Click the Calderix Drive icon in the menu bar to see the sync status and change settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Calderix Drive-ikonet på menulinjen for at se synkroniseringsstatus og ændre indstillinger.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>The certificate of the NAS could not be verified. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enhedens certifikat kunne ikke bekræftes. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>This file does not belong to any connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne fil hører ikke til nogen forbindelse.</translation>
     </message>
     <message>
         <source>Access Anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Adgang overalt</translation>
     </message>
     <message>
         <source>December</source>
@@ -861,11 +861,11 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxyserveren kræver en adgangskode</translation>
     </message>
     <message>
         <source>Sync folder on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsmappe på NAS-enheden</translation>
     </message>
     <message>
         <source>Choose the shared folder, the local folder and the sync options yourself.</source>
@@ -873,35 +873,35 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer med disse navne synkroniseres ikke.</translation>
     </message>
     <message>
         <source>Welcome to the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Velkommen til installationsguiden til Calderix Drive</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nogle felter indeholder ugyldige værdier.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anvender indstillinger...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Calderix Drive installation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Er du sikker på, at du vil annullere installationen af Calderix Drive?</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Calderix Drive on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationsguiden installerer Calderix Drive på din computer. Klik på Næste for at fortsætte eller på Annuller for at afslutte installationsguiden.</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Monteringspunkt understøttes ikke</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -909,23 +909,23 @@
     </message>
     <message>
         <source>Folder name</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappenavn</translation>
     </message>
     <message>
         <source>NAS overview</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-oversigt</translation>
     </message>
     <message>
         <source>I &amp;accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeg &amp;accepterer betingelserne i licensaftalen</translation>
     </message>
     <message>
         <source>Calderix Drive status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status for Calderix Drive</translation>
     </message>
     <message>
         <source>Sync Your Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser dine filer</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>This version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne version af Calderix Drive er allerede installeret.</translation>
     </message>
     <message>
         <source>Remove Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjern Calderix Drive</translation>
     </message>
     <message>
         <source>September</source>
@@ -957,15 +957,15 @@
     </message>
     <message>
         <source>Anyone with the link can open the file in a web browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle med linket kan åbne filen i en webbrowser.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Din konto er deaktiveret på NAS-enheden.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorer</translation>
     </message>
     <message>
         <source>May</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjern installationen</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -981,19 +981,19 @@
     </message>
     <message>
         <source>Calderix Drive could not be upgraded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive kunne ikke opgraderes.</translation>
     </message>
     <message>
         <source>Your user information could not be retrieved from the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dine brugeroplysninger kunne ikke hentes fra NAS-enheden.</translation>
     </message>
     <message>
         <source>Connection type</source>
-        <translation type="unfinished"></translation>
+        <translation>Forbindelsestype</translation>
     </message>
     <message>
         <source>Ready to install Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Klar til at installere Calderix Drive</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
@@ -1001,11 +1001,11 @@
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Mapper</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Oprettet</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg en mappe</translation>
     </message>
     <message>
         <source>Folder selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektiv synkronisering af mapper</translation>
     </message>
     <message>
         <source>February</source>
@@ -1025,23 +1025,23 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen af Calderix Drive blev afbrudt</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Din adgangskode er udløbet. Skift den på NAS-enheden.</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast bekræftelseskoden</translation>
     </message>
     <message>
         <source>The user name or password for the proxy server is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Brugernavnet eller adgangskoden til proxyserveren er forkert.</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation type="unfinished"></translation>
+        <translation>Udløber den</translation>
     </message>
     <message>
         <source>Your files are now kept in sync with the NAS.</source>
@@ -1049,23 +1049,23 @@
     </message>
     <message>
         <source>Sharing links are not available over a Farrowlink connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Delingslinks er ikke tilgængelige via en Farrowlink-forbindelse.</translation>
     </message>
     <message>
         <source>Show Calderix Drive in the context menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis Calderix Drive i genvejsmenuen</translation>
     </message>
     <message>
         <source>The Ostrel service is disabled on the NAS. Please ask your administrator to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrel-tjenesten er deaktiveret på NAS-enheden. Bed din administrator om at aktivere den.</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nogle filer kunne ikke synkroniseres.</translation>
     </message>
     <message>
         <source>Folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappesti</translation>
     </message>
     <message>
         <source>Calderix Drive is starting...</source>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Use a black-and-white menu bar icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Brug et sort-hvidt ikon på menulinjen</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Forløb</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>Inaktiv</translation>
     </message>
     <message>
         <source>This shared folder is already synced to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne delte mappe synkroniseres allerede med en anden mappe.</translation>
     </message>
     <message>
         <source>General</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Open your synced files from any computer paired with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Åbn dine synkroniserede filer fra enhver computer, der er parret med NAS-enheden.</translation>
     </message>
     <message>
         <source>The link to the file could not be retrieved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Linket til filen kunne ikke hentes.</translation>
     </message>
     <message>
         <source>No proxy</source>
@@ -1121,11 +1121,11 @@
     </message>
     <message>
         <source>This field cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dette felt må ikke være tomt.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prøv igen</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>Checking for changes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Søger efter ændringer...</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1145,31 +1145,31 @@
     </message>
     <message>
         <source>Remote destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjerndestination</translation>
     </message>
     <message>
         <source>Read-only Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrivebeskyttet mappe</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rediger, reparer eller fjern installationen</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ny synkroniseringsmappe</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne computer</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
-        <translation type="unfinished"></translation>
+        <translation>Indlæser mappelisten...</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated by this setup. Close these applications and click Retry to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Følgende programmer bruger filer, som skal opdateres af denne installation. Luk disse programmer, og klik på Prøv igen for at fortsætte.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1181,39 +1181,39 @@
     </message>
     <message>
         <source>Connect through Farrowlink</source>
-        <translation type="unfinished"></translation>
+        <translation>Opret forbindelse via Farrowlink</translation>
     </message>
     <message>
         <source>A file with the same name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der findes allerede en fil med samme navn.</translation>
     </message>
     <message>
         <source>Create a new folder to sync with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opret en ny mappe, der skal synkroniseres med NAS-enheden.</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed. Do you trust the new certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-enhedens certifikat er ændret. Har du tillid til det nye certifikat?</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionerne af denne fil kan ikke vises.</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj filnavn</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloader %1...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>For mange mislykkede forsøg. Prøv igen senere.</translation>
     </message>
     <message>
         <source>April</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Sharing enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Deling aktiveret</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Computernavn</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>Ostrel disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrel er deaktiveret</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1253,15 +1253,15 @@
     </message>
     <message>
         <source>The volume of the sync folder %1 is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diskenheden med synkroniseringsmappen %1 er ikke monteret.</translation>
     </message>
     <message>
         <source>This folder is already synced with the same shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne mappe synkroniseres allerede med den samme delte mappe på NAS-enheden.</translation>
     </message>
     <message>
         <source>Shared folder missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Delt mappe mangler</translation>
     </message>
     <message>
         <source>Click to update Calderix Drive</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Use a secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Brug en sikker forbindelse (SSL)</translation>
     </message>
     <message>
         <source>Open file</source>
@@ -1277,7 +1277,7 @@
     </message>
     <message>
         <source>Setup is ready to begin the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen er klar til at begynde.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1285,19 +1285,19 @@
     </message>
     <message>
         <source>When the same file has changed on both sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Når den samme fil er ændret på begge sider:</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Calderix Drive. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Reparer for at reparere installationen af Calderix Drive. Klik på Tilbage for at gennemse eller ændre dine installationsindstillinger. Klik på Annuller for at afslutte guiden.</translation>
     </message>
     <message>
         <source>Add Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj synkroniseringsopgave</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Forbereder</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -1305,19 +1305,19 @@
     </message>
     <message>
         <source>This version of Calderix Drive is not supported by the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne version af Calderix Drive understøttes ikke af NAS-enheden. Opgrader Calderix Drive.</translation>
     </message>
     <message>
         <source>Enable sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivér synkronisering</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du har ikke tilladelse til at få adgang til denne mappe.</translation>
     </message>
     <message>
         <source>The folder %1 is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappen %1 er skrivebeskyttet.</translation>
     </message>
     <message>
         <source>Upgrade Calderix Drive</source>
@@ -1325,11 +1325,11 @@
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bekræftelseskoden er forkert.</translation>
     </message>
     <message>
         <source>Your files stay available even when this computer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dine filer forbliver tilgængelige, selv når denne computer er offline.</translation>
     </message>
     <message>
         <source>Checking data...</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>Log category</source>
-        <translation type="unfinished"></translation>
+        <translation>Logkategori</translation>
     </message>
     <message>
         <source>Launch Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Calderix Drive</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ja</translation>
     </message>
     <message>
         <source>Upgrade failed.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Selective sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilstand for selektiv synkronisering</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Login mislykkedes</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer i brug</translation>
     </message>
     <message>
         <source>All events</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Omdøbt på denne computer</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1397,35 +1397,35 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der er ingen mappe, der kan synkroniseres.</translation>
     </message>
     <message>
         <source>Sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsmappe</translation>
     </message>
     <message>
         <source>One-way sync (download only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Envejssynkronisering (kun download)</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg den delte mappe på NAS-enheden, som du vil synkronisere.</translation>
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Søg efter NAS-enheder på det lokale netværk</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Fjern for at fjerne Calderix Drive fra din computer. Klik på Tilbage for at gennemse eller ændre dine installationsindstillinger. Klik på Annuller for at afslutte guiden.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Manuel proxykonfiguration</translation>
     </message>
     <message>
         <source>The shared folder no longer exists on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den delte mappe findes ikke længere på NAS-enheden.</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1433,39 +1433,39 @@
     </message>
     <message>
         <source>Stay Informed</source>
-        <translation type="unfinished"></translation>
+        <translation>Hold dig orienteret</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkte forbindelse</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Forrige %1 sider</translation>
     </message>
     <message>
         <source>More tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Flere tips</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opretter forbindelse til %1...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast et portnummer mellem 1 og 65535.</translation>
     </message>
     <message>
         <source>File selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektiv synkronisering af filer</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvoten er opbrugt</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation type="unfinished"></translation>
+        <translation>Brugerdefineret interval</translation>
     </message>
     <message>
         <source>Open Calderix Drive Folder</source>
@@ -1473,15 +1473,15 @@
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den delte mappe er ikke monteret på NAS-enheden.</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Installer for at starte installationen. Klik på Tilbage for at gennemse eller ændre dine installationsindstillinger. Klik på Annuller for at afslutte guiden.</translation>
     </message>
     <message>
         <source>The remote folder is not available because its volume is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjernmappen er ikke tilgængelig, fordi dens diskenhed ikke er monteret.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>Setup is ready to install Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationen er klar til at installere Calderix Drive.</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Låst</translation>
     </message>
     <message>
         <source>Quick Setup</source>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Turning off sync for this folder removes it from the sync list. The files stay on the NAS and on this computer. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvis du slår synkronisering fra for denne mappe, fjernes den fra synkroniseringslisten. Filerne bliver på NAS-enheden og på denne computer. Vil du fortsætte?</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Genoptag synkronisering af denne mappe</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation type="unfinished"></translation>
+        <translation>Sidste side</translation>
     </message>
     <message>
         <source>Delete Link</source>
@@ -1517,23 +1517,23 @@
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuller installationen</translation>
     </message>
     <message>
         <source>A sync task for this folder already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der findes allerede en synkroniseringsopgave for denne mappe.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne mappe blev synkroniseret af en anden brugerkonto.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen indstillinger er blevet ændret.</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nej</translation>
     </message>
     <message>
         <source>Sign-in failed. Please check your user name and password.</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Files that match these filters will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer, der matcher disse filtre, synkroniseres ikke.</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS.</source>
@@ -1549,11 +1549,11 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation type="unfinished"></translation>
+        <translation>Kun download</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjerner tilknytning...</translation>
     </message>
     <message>
         <source>Resume Syncing</source>
@@ -1561,63 +1561,63 @@
     </message>
     <message>
         <source>Completed the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationsguiden til Calderix Drive er fuldført</translation>
     </message>
     <message>
         <source>Set Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Angiv synkroniseringsmappe</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Installer</translation>
     </message>
     <message>
         <source>Tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduktion</translation>
     </message>
     <message>
         <source>Expires after %1 accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Udløber efter %1 adgange</translation>
     </message>
     <message>
         <source>The contents of both folders will be merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indholdet af begge mapper flettes.</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent, mens installationsguiden installerer Calderix Drive.</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Næste måned</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloader</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du har ikke tilladelse til at udføre denne handling.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts, and registry entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retter fejl i den seneste installation ved at reparere manglende og beskadigede filer, genveje og registreringsdatabaseposter.</translation>
     </message>
     <message>
         <source>Sync could not be enabled for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkronisering kunne ikke aktiveres for denne mappe.</translation>
     </message>
     <message>
         <source>No previous version of this file is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der findes ingen tidligere version af denne fil.</translation>
     </message>
     <message>
         <source>Refresh the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdater synkroniseringsloggen</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Fjern for at fjerne Calderix Drive fra din computer.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1625,11 +1625,11 @@
     </message>
     <message>
         <source>Removes Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fjerner Calderix Drive fra din computer.</translation>
     </message>
     <message>
         <source>Repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparer Calderix Drive</translation>
     </message>
     <message>
         <source>Setup Mode</source>
@@ -1637,11 +1637,11 @@
     </message>
     <message>
         <source>File extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtypenavn</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elementer</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1649,31 +1649,31 @@
     </message>
     <message>
         <source>No options available</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen tilgængelige indstillinger</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netværk</translation>
     </message>
     <message>
         <source>Sync and share your files with your NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniser og del dine filer med din NAS.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Adgang nægtet</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Fra</translation>
     </message>
     <message>
         <source>Renamed on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Omdøbt på NAS-enheden</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive. This may take several minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vent, mens installationsguiden installerer Calderix Drive. Dette kan tage flere minutter.</translation>
     </message>
     <message>
         <source>Start Calderix Drive when I log in</source>
@@ -1681,23 +1681,23 @@
     </message>
     <message>
         <source>This wizard will guide you through the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne guide fører dig gennem installationen.</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtype</translation>
     </message>
     <message>
         <source>Keep the most recently modified file</source>
-        <translation type="unfinished"></translation>
+        <translation>Behold den senest ændrede fil</translation>
     </message>
     <message>
         <source>This computer is already paired with this NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne computer er allerede parret med denne NAS.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Læs følgende licensaftale omhyggeligt.</translation>
     </message>
     <message>
         <source>Calderix Drive could not be started.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>The NAS package is too old for this version of Calderix Drive. Please update the package on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-pakken er for gammel til denne version af Calderix Drive. Opdater pakken på NAS-enheden.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1717,11 +1717,11 @@
     </message>
     <message>
         <source>New Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Ny deling</translation>
     </message>
     <message>
         <source>Please enter the verification code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indtast bekræftelseskoden.</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1729,11 +1729,11 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>og %1 mere</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulstil</translation>
     </message>
     <message>
         <source>The new language will be used after Calderix Drive restarts.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Værdi</translation>
     </message>
     <message>
         <source>Calderix Drive is initializing...</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink from %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Er du sikker på, at du vil fjerne tilknytningen til %1?</translation>
     </message>
     <message>
         <source>June</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Calderix Drive has been installed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive er installeret.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -1769,15 +1769,15 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Jeg accepterer &amp;ikke betingelserne i licensaftalen</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Standbytilstand</translation>
     </message>
     <message>
         <source>Search the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Søg på det lokale netværk</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>Synchronization mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringstilstand</translation>
     </message>
     <message>
         <source>History</source>
@@ -1797,19 +1797,19 @@
     </message>
     <message>
         <source>Local sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal synkroniseringsmappe</translation>
     </message>
     <message>
         <source>You have chosen to remove the program from your system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Du har valgt at fjerne programmet fra dit system.</translation>
     </message>
     <message>
         <source>Calderix Drive has no independent features to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive har ingen uafhængige funktioner, der kan ændres.</translation>
     </message>
     <message>
         <source>Not needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikke nødvendigt</translation>
     </message>
     <message>
         <source>Calderix Drive will now sync your files with the NAS.</source>
@@ -1817,27 +1817,27 @@
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Dine ændringer er ikke gemt. Vil du gemme dem?</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Skift sprog</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokal destination</translation>
     </message>
     <message>
         <source>Connections from this IP address are blocked by the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Forbindelser fra denne IP-adresse blokeres af NAS-enheden.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der er allerede installeret en nyere version af Calderix Drive.</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Status:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Download a previous version</source>
-        <translation type="unfinished"></translation>
+        <translation>Download en tidligere version</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -1857,11 +1857,11 @@
     </message>
     <message>
         <source>A network error occurred while checking the sync folder. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der opstod en netværksfejl under kontrol af synkroniseringsmappen. Prøv igen.</translation>
     </message>
     <message>
         <source>Certificate error</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikatfejl</translation>
     </message>
     <message>
         <source>Calderix Drive</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Click Repair to repair Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klik på Reparer for at reparere Calderix Drive.</translation>
     </message>
     <message>
         <source>File</source>
@@ -1881,15 +1881,15 @@
     </message>
     <message>
         <source>Change, repair, or remove Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rediger, reparer eller fjern Calderix Drive.</translation>
     </message>
     <message>
         <source>Updated files</source>
-        <translation type="unfinished"></translation>
+        <translation>Opdaterede filer</translation>
     </message>
     <message>
         <source>Sync task</source>
-        <translation type="unfinished"></translation>
+        <translation>Synkroniseringsopgave</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1897,15 +1897,15 @@
     </message>
     <message>
         <source>Delete the downloaded version</source>
-        <translation type="unfinished"></translation>
+        <translation>Slet den downloadede version</translation>
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished"></translation>
+        <translation>Udeladte filer</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Brugerdefineret varighed</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your user account.</source>
@@ -1913,11 +1913,11 @@
     </message>
     <message>
         <source>Change the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Rediger installationen</translation>
     </message>
     <message>
         <source>This folder is read-only. Changes are not synced to the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne mappe er skrivebeskyttet. Ændringer synkroniseres ikke til NAS-enheden.</translation>
     </message>
     <message>
         <source>Choose Another</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Automatic connection failed because of a system error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den automatiske forbindelse mislykkedes på grund af en systemfejl.</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Senest ændret</translation>
     </message>
     <message>
         <source>Calderix Drive is ready.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>NAS storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-lageret er fuldt</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The storage quota of this shared folder is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lagerkvoten for denne delte mappe er opbrugt.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>Incompatible version</source>
-        <translation type="unfinished"></translation>
+        <translation>Inkompatibel version</translation>
     </message>
     <message>
         <source>Send to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Send til %1</translation>
     </message>
     <message>
         <source>You can change these settings at any time.</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>An error occurred during the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der opstod en fejl under installationen.</translation>
     </message>
     <message>
         <source>Pair with a NAS</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>&amp;Do not close applications. A restart will be required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Luk &amp;ikke programmerne. Det vil være nødvendigt at genstarte.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Udfør</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Anvend, og kopiér link</translation>
     </message>
     <message>
         <source>Pause Syncing</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilføj mappe</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a Calderix Drive folder on this computer.</source>
@@ -2017,23 +2017,23 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Fjern</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation type="unfinished"></translation>
+        <translation>Envejsdownload</translation>
     </message>
     <message>
         <source>Select the folder that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg den mappe, du vil synkronisere.</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Forrige måned</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hjemmemappetjenesten er deaktiveret på NAS-enheden.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your connection.</source>
@@ -2045,23 +2045,23 @@
     </message>
     <message>
         <source>Sharing links need the Ostrel service, which is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Delingslinks kræver Ostrel-tjenesten, som er deaktiveret på NAS-enheden.</translation>
     </message>
     <message>
         <source>Double-click action</source>
-        <translation type="unfinished"></translation>
+        <translation>Handling ved dobbeltklik</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktivér synkronisering efter behov</translation>
     </message>
     <message>
         <source>Files whose names begin with a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Filer, hvis navne begynder med et punktum</translation>
     </message>
     <message>
         <source>The NAS package does not support this version of Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-pakken understøtter ikke denne version af Calderix Drive.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2081,15 +2081,15 @@
     </message>
     <message>
         <source>Close the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Luk introduktionen</translation>
     </message>
     <message>
         <source>The shared folder %1 is already synced with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den delte mappe %1 synkroniseres allerede med %2.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Calderix Drive manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Den automatiske opsætning mislykkedes. Konfigurer Calderix Drive manuelt.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Filter the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer synkroniseringsloggen</translation>
     </message>
     <message>
         <source>January</source>
@@ -2105,15 +2105,15 @@
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen tilladelse</translation>
     </message>
     <message>
         <source>Loading sync folders...</source>
-        <translation type="unfinished"></translation>
+        <translation>Indlæser synkroniseringsmapper...</translation>
     </message>
     <message>
         <source>Choose what to do when setup finishes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vælg, hvad der skal ske, når opsætningen er fuldført.</translation>
     </message>
 </context>
 </TS>
