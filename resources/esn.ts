@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salir</translation>
     </message>
     <message>
         <source>Calderix Drive keeps the files on this computer in sync with your NAS. Click Start Now to pair this computer with your NAS.</source>
@@ -21,75 +21,75 @@
     </message>
     <message>
         <source>Uploading</source>
-        <translation type="unfinished"></translation>
+        <translation>Subiendo</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera página</translation>
     </message>
     <message>
         <source>You can create no more than %1 sharing links.</source>
-        <translation type="unfinished"></translation>
+        <translation>No puede crear más de %1 enlaces para compartir.</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos de más de %1 MB no se sincronizarán.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronización a petición</translation>
     </message>
     <message>
         <source>The selected folder cannot be used as a sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta seleccionada no se puede usar como carpeta de sincronización. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Sync temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizar archivos temporales</translation>
     </message>
     <message>
         <source>Farrowlink relay</source>
-        <translation type="unfinished"></translation>
+        <translation>Retransmisión Farrowlink</translation>
     </message>
     <message>
         <source>Keep both files and rename the conflicting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar ambos archivos y cambiar el nombre del archivo en conflicto</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le permite cambiar la forma en que se instalan las características.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imprimir</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Calderix Drive is installed on your computer, repair it, or remove it. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Asistente de instalación le permite cambiar la forma en que Calderix Drive está instalado en su equipo, repararlo o quitarlo. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente de instalación.</translation>
     </message>
     <message>
         <source>%1 shared a folder with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha compartido una carpeta con usted.</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en el botón Finalizar para salir del Asistente de instalación.</translation>
     </message>
     <message>
         <source>Choose a different local folder or a different shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija otra carpeta local u otra carpeta compartida en el NAS.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>La instalación ha finalizado.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Hasta</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Limitar el número de accesos</translation>
     </message>
     <message>
         <source>October</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>A sharing link cannot be created for this item.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede crear un enlace para compartir este elemento.</translation>
     </message>
     <message>
         <source>Server address details</source>
-        <translation type="unfinished"></translation>
+        <translation>Detalles de la dirección del servidor</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -113,23 +113,23 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the setting on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>La dirección de sincronización de esta carpeta no coincide con la configuración del NAS.</translation>
     </message>
     <message>
         <source>You need administrator rights to install Calderix Drive. Do you want to continue anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>Necesita derechos de administrador para instalar Calderix Drive. ¿Desea continuar de todos modos?</translation>
     </message>
     <message>
         <source>This folder overlaps with an existing sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta se superpone con una carpeta de sincronización existente. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Sync Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas de sincronización</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo lectura</translation>
     </message>
     <message>
         <source>Add</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space or ask your administrator for a larger quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su cuota de almacenamiento en el NAS está llena. Libere espacio o pida a su administrador una cuota mayor.</translation>
     </message>
     <message>
         <source>Automatic connection was cancelled by the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>El administrador ha cancelado la conexión automática.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -161,19 +161,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely</source>
-        <translation type="unfinished"></translation>
+        <translation>La instalación de Calderix Drive finalizó prematuramente</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parámetro no válido.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. You can close them and click Retry, or click Ignore to continue anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las siguientes aplicaciones están usando archivos que el programa de instalación debe actualizar. Puede cerrarlas y hacer clic en Reintentar, o hacer clic en Omitir para continuar de todos modos.</translation>
     </message>
     <message>
         <source>This folder is being indexed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta se está indexando.</translation>
     </message>
     <message>
         <source>November</source>
@@ -185,23 +185,23 @@
     </message>
     <message>
         <source>Download History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial de descargas</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Resumen</translation>
     </message>
     <message>
         <source>Merge files from both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar los archivos de ambos lados</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la guía de introducción</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar carpeta de sincronización</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Change Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar carpeta</translation>
     </message>
     <message>
         <source>About Calderix Drive</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Files excluded from sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos excluidos de la sincronización</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -241,19 +241,19 @@
     </message>
     <message>
         <source>There is not enough free space on the disk of this folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente espacio libre en el disco de esta carpeta. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Disco lleno</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de sincronización</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>Palabra clave</translation>
     </message>
     <message>
         <source>Done</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Changes made by other computers on a network drive may not be detected right away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es posible que los cambios realizados por otros equipos en una unidad de red no se detecten de inmediato.</translation>
     </message>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca un nombre de usuario.</translation>
     </message>
     <message>
         <source>Checking your user name and password...</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando su nombre de usuario y contraseña...</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>Shared folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta compartida</translation>
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space before syncing this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su cuota de almacenamiento en el NAS está llena. Libere espacio antes de sincronizar esta carpeta.</translation>
     </message>
     <message>
         <source>The server replied with an unexpected response.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha devuelto una respuesta inesperada.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red local</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca como máximo %1 caracteres.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar carpeta</translation>
     </message>
     <message>
         <source>Folders you deselect will be removed from this computer but stay on the NAS. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Las carpetas que desmarque se quitarán de este equipo, pero se conservarán en el NAS. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Open Calderix Drive</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Maximum file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño máximo de archivo</translation>
     </message>
     <message>
         <source>This version of Calderix Drive is too old for the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta versión de Calderix Drive es demasiado antigua para el NAS. Actualice Calderix Drive.</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -353,15 +353,15 @@
     </message>
     <message>
         <source>Stop the version download</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener la descarga de la versión</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino</translation>
     </message>
     <message>
         <source>%1 shared the folder %2 with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha compartido la carpeta %2 con usted.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -369,19 +369,19 @@
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta no está vacía</translation>
     </message>
     <message>
         <source>&amp;Close the applications and attempt to restart them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cerrar las aplicaciones e intentar reiniciarlas.</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendario</translation>
     </message>
     <message>
         <source>Keep conflicting files in a separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar los archivos en conflicto en una carpeta aparte</translation>
     </message>
     <message>
         <source>July</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 es un punto de montaje y no se puede usar como carpeta de sincronización.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Siguientes %1 páginas</translation>
     </message>
     <message>
         <source>There are no records to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay registros que mostrar.</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>Tareas de sincronización</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Probando la conexión...</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this sync task? The files on this computer and on the NAS will be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Está seguro de que desea desvincular esta tarea de sincronización? Se conservarán los archivos de este equipo y del NAS.</translation>
     </message>
     <message>
         <source>Connecting...</source>
@@ -417,19 +417,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely because of an error. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La instalación de Calderix Drive finalizó prematuramente debido a un error. No se ha modificado el sistema. Para instalar este programa más adelante, vuelva a ejecutar el Asistente de instalación.</translation>
     </message>
     <message>
         <source>A secure connection to the NAS could not be established.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido establecer una conexión segura con el NAS.</translation>
     </message>
     <message>
         <source>Sync direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de sincronización</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problema de sincronización</translation>
     </message>
     <message>
         <source>Information</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Files on this computer that conflict with files on the NAS will be renamed and kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos de este equipo que entren en conflicto con archivos del NAS se cambiarán de nombre y se conservarán.</translation>
     </message>
     <message>
         <source>Get sharing link</source>
@@ -465,19 +465,19 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Las versiones no coinciden</translation>
     </message>
     <message>
         <source>Failed to download %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido descargar %1.</translation>
     </message>
     <message>
         <source>The disk of this computer is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco de este equipo está lleno.</translation>
     </message>
     <message>
         <source>Please update the NAS package to use selective sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualice el paquete del NAS para usar la sincronización selectiva.</translation>
     </message>
     <message>
         <source>The user name or password is incorrect.</source>
@@ -485,87 +485,87 @@
     </message>
     <message>
         <source>This sync folder belongs to a different NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta de sincronización pertenece a otro NAS.</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar iconos de estado de sincronización en archivos y carpetas</translation>
     </message>
     <message>
         <source>Setup was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha interrumpido la instalación.</translation>
     </message>
     <message>
         <source>The folder %1 is not empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta %1 no está vacía.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando la configuración...</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtro</translation>
     </message>
     <message>
         <source>On-demand sync could not be enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido activar la sincronización a petición.</translation>
     </message>
     <message>
         <source>The download was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha detenido la descarga.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Acción</translation>
     </message>
     <message>
         <source>A new sync task will be created for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se creará una nueva tarea de sincronización para %1.</translation>
     </message>
     <message>
         <source>Resume syncing these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar la sincronización de estas carpetas</translation>
     </message>
     <message>
         <source>Ready to repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo para reparar Calderix Drive</translation>
     </message>
     <message>
         <source>Sync with a new NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizar con un NAS nuevo</translation>
     </message>
     <message>
         <source>The certificate of the NAS could not be verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido verificar el certificado del NAS.</translation>
     </message>
     <message>
         <source>The connection ID is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>El identificador de conexión no es válido.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is available. Upgrade now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una versión más reciente de Calderix Drive disponible. ¿Desea actualizar ahora?</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>El certificado del NAS ha cambiado.</translation>
     </message>
     <message>
         <source>Right-click a file in your sync folder to get a sharing link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic con el botón derecho en un archivo de su carpeta de sincronización para obtener un enlace para compartir.</translation>
     </message>
     <message>
         <source>The folder is not empty. Do you want to merge its contents with the folder on the NAS?</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta no está vacía. ¿Desea combinar su contenido con la carpeta del NAS?</translation>
     </message>
     <message>
         <source>More details</source>
-        <translation type="unfinished"></translation>
+        <translation>Más detalles</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a intentarlo</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -573,19 +573,19 @@
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la operación que desea realizar.</translation>
     </message>
     <message>
         <source>Your files, everywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus archivos, en todas partes.</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrato de licencia para el usuario final</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de archivo</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Internet</source>
-        <translation type="unfinished"></translation>
+        <translation>Internet</translation>
     </message>
     <message>
         <source>Port</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos archivos que deben actualizarse están en uso.</translation>
     </message>
     <message>
         <source>The set-up key has already been configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>La clave de configuración ya se ha aplicado.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -613,15 +613,15 @@
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparar la instalación</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation type="unfinished"></translation>
+        <translation>Disponible desde</translation>
     </message>
     <message>
         <source>Overwrite the file on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir el archivo de este equipo</translation>
     </message>
     <message>
         <source>Help</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca la dirección y el puerto del servidor proxy.</translation>
     </message>
     <message>
         <source>The selected folder is read-only. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta seleccionada es de solo lectura. Elija otra carpeta.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las conexiones por retransmisión están desactivadas en el NAS.</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -645,19 +645,19 @@
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reparar</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed since this folder was last synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>El certificado del NAS ha cambiado desde la última sincronización de esta carpeta.</translation>
     </message>
     <message>
         <source>Create a Calderix Drive folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear una carpeta de Calderix Drive</translation>
     </message>
     <message>
         <source>Show icons on files that are not synced</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar iconos en los archivos que no se sincronizan</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -665,51 +665,51 @@
     </message>
     <message>
         <source>Restrict access</source>
-        <translation type="unfinished"></translation>
+        <translation>Restringir el acceso</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Atrás</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo de fechas</translation>
     </message>
     <message>
         <source>The local sync folder %1 cannot be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la carpeta de sincronización local %1.</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Examinar versiones anteriores</translation>
     </message>
     <message>
         <source>Detecting the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Detectando la conexión...</translation>
     </message>
     <message>
         <source>Advanced Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Asistente de configuración avanzada</translation>
     </message>
     <message>
         <source>Files you put in your sync folder are kept up to date on the NAS and on all your computers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos que coloque en su carpeta de sincronización se mantienen actualizados en el NAS y en todos sus equipos.</translation>
     </message>
     <message>
         <source>The sharing link could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar el enlace para compartir.</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>Server address</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección del servidor</translation>
     </message>
     <message>
         <source>Installing Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalando Calderix Drive</translation>
     </message>
     <message>
         <source>User name</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -729,23 +729,23 @@
     </message>
     <message>
         <source>Connected to a different NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado a otro NAS</translation>
     </message>
     <message>
         <source>Share Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparta archivos</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cambiar</translation>
     </message>
     <message>
         <source>The local folder could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido crear la carpeta local.</translation>
     </message>
     <message>
         <source>Secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión segura (SSL)</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha interrumpido la instalación de Calderix Drive. No se ha modificado el sistema. Para instalar este programa más adelante, vuelva a ejecutar el Asistente de instalación.</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -761,27 +761,27 @@
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Siguiente &gt;</translation>
     </message>
     <message>
         <source>This item cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede descargar este elemento.</translation>
     </message>
     <message>
         <source>The local database could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir la base de datos local.</translation>
     </message>
     <message>
         <source>Apply to all subfolders</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar a todas las subcarpetas</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>No sincronizar estas carpetas</translation>
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha descargado %1.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Duplicate Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarea de sincronización duplicada</translation>
     </message>
     <message>
         <source>The NAS requires two-step verification for your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>El NAS exige la verificación en dos pasos para su cuenta.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Do you want to delete this sharing link?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea eliminar este enlace para compartir?</translation>
     </message>
     <message>
         <source>Calderix Drive is already running.</source>
@@ -809,23 +809,23 @@
     </message>
     <message>
         <source>Security Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia de seguridad</translation>
     </message>
     <message>
         <source>Open sync status</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir estado de sincronización</translation>
     </message>
     <message>
         <source>This system folder cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta del sistema no se puede usar como carpeta de sincronización.</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>No sincronizar esta carpeta</translation>
     </message>
     <message>
         <source>Click the Calderix Drive icon in the menu bar to see the sync status and change settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en el icono de Calderix Drive en la barra de menús para ver el estado de sincronización y cambiar la configuración.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>The certificate of the NAS could not be verified. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido verificar el certificado del NAS. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>This file does not belong to any connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no pertenece a ninguna conexión.</translation>
     </message>
     <message>
         <source>Access Anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso desde cualquier lugar</translation>
     </message>
     <message>
         <source>December</source>
@@ -861,11 +861,11 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor proxy requiere una contraseña</translation>
     </message>
     <message>
         <source>Sync folder on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de sincronización en el NAS</translation>
     </message>
     <message>
         <source>Choose the shared folder, the local folder and the sync options yourself.</source>
@@ -873,35 +873,35 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos con estos nombres no se sincronizarán.</translation>
     </message>
     <message>
         <source>Welcome to the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenido al Asistente de instalación de Calderix Drive</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos campos contienen valores no válidos.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando la configuración...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Calderix Drive installation?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Está seguro de que desea cancelar la instalación de Calderix Drive?</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Calderix Drive on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Asistente de instalación instalará Calderix Drive en su equipo. Haga clic en Siguiente para continuar o en Cancelar para salir del Asistente de instalación.</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto de montaje no admitido</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -909,23 +909,23 @@
     </message>
     <message>
         <source>Folder name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de carpeta</translation>
     </message>
     <message>
         <source>NAS overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista general del NAS</translation>
     </message>
     <message>
         <source>I &amp;accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;cepto los términos del contrato de licencia</translation>
     </message>
     <message>
         <source>Calderix Drive status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de Calderix Drive</translation>
     </message>
     <message>
         <source>Sync Your Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronice sus archivos</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>This version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta versión de Calderix Drive ya está instalada.</translation>
     </message>
     <message>
         <source>Remove Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar Calderix Drive</translation>
     </message>
     <message>
         <source>September</source>
@@ -957,15 +957,15 @@
     </message>
     <message>
         <source>Anyone with the link can open the file in a web browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cualquier persona que tenga el enlace puede abrir el archivo en un navegador web.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su cuenta se ha desactivado en el NAS.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Omitir</translation>
     </message>
     <message>
         <source>May</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar la instalación</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -981,19 +981,19 @@
     </message>
     <message>
         <source>Calderix Drive could not be upgraded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido actualizar Calderix Drive.</translation>
     </message>
     <message>
         <source>Your user information could not be retrieved from the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido obtener su información de usuario del NAS.</translation>
     </message>
     <message>
         <source>Connection type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de conexión</translation>
     </message>
     <message>
         <source>Ready to install Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Listo para instalar Calderix Drive</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
@@ -1001,11 +1001,11 @@
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpetas</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Creado</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una carpeta</translation>
     </message>
     <message>
         <source>Folder selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronización selectiva de carpetas</translation>
     </message>
     <message>
         <source>February</source>
@@ -1025,23 +1025,23 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha interrumpido la instalación de Calderix Drive</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su contraseña ha caducado. Cámbiela en el NAS.</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca el código de verificación</translation>
     </message>
     <message>
         <source>The user name or password for the proxy server is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de usuario o la contraseña del servidor proxy no son correctos.</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation type="unfinished"></translation>
+        <translation>Caduca el</translation>
     </message>
     <message>
         <source>Your files are now kept in sync with the NAS.</source>
@@ -1049,23 +1049,23 @@
     </message>
     <message>
         <source>Sharing links are not available over a Farrowlink connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los enlaces para compartir no están disponibles a través de una conexión Farrowlink.</translation>
     </message>
     <message>
         <source>Show Calderix Drive in the context menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar Calderix Drive en el menú contextual</translation>
     </message>
     <message>
         <source>The Ostrel service is disabled on the NAS. Please ask your administrator to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio Ostrel está desactivado en el NAS. Pida a su administrador que lo active.</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido sincronizar algunos archivos.</translation>
     </message>
     <message>
         <source>Folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta de la carpeta</translation>
     </message>
     <message>
         <source>Calderix Drive is starting...</source>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Use a black-and-white menu bar icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar un icono en blanco y negro en la barra de menús</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>Inactivo</translation>
     </message>
     <message>
         <source>This shared folder is already synced to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta compartida ya está sincronizada con otra carpeta.</translation>
     </message>
     <message>
         <source>General</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Open your synced files from any computer paired with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abra sus archivos sincronizados desde cualquier equipo vinculado con el NAS.</translation>
     </message>
     <message>
         <source>The link to the file could not be retrieved.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido obtener el enlace al archivo.</translation>
     </message>
     <message>
         <source>No proxy</source>
@@ -1121,11 +1121,11 @@
     </message>
     <message>
         <source>This field cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este campo no puede estar vacío.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reintentar</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>Checking for changes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando cambios...</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1145,31 +1145,31 @@
     </message>
     <message>
         <source>Remote destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino remoto</translation>
     </message>
     <message>
         <source>Read-only Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de solo lectura</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar, reparar o quitar la instalación</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nueva carpeta de sincronización</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Este equipo</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando la lista de carpetas...</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated by this setup. Close these applications and click Retry to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las siguientes aplicaciones están usando archivos que esta instalación debe actualizar. Cierre estas aplicaciones y haga clic en Reintentar para continuar.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1181,39 +1181,39 @@
     </message>
     <message>
         <source>Connect through Farrowlink</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectarse a través de Farrowlink</translation>
     </message>
     <message>
         <source>A file with the same name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe un archivo con el mismo nombre.</translation>
     </message>
     <message>
         <source>Create a new folder to sync with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cree una carpeta nueva para sincronizarla con el NAS.</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed. Do you trust the new certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>El certificado del NAS ha cambiado. ¿Confía en el nuevo certificado?</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pueden enumerar las versiones de este archivo.</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir nombre de archivo</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ID</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando %1...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiados intentos fallidos. Vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
         <source>April</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Sharing enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Uso compartido activado</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Equipo</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>Ostrel disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ostrel desactivado</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1253,15 +1253,15 @@
     </message>
     <message>
         <source>The volume of the sync folder %1 is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>El volumen de la carpeta de sincronización %1 no está montado.</translation>
     </message>
     <message>
         <source>This folder is already synced with the same shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta ya está sincronizada con la misma carpeta compartida del NAS.</translation>
     </message>
     <message>
         <source>Shared folder missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la carpeta compartida</translation>
     </message>
     <message>
         <source>Click to update Calderix Drive</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Use a secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar una conexión segura (SSL)</translation>
     </message>
     <message>
         <source>Open file</source>
@@ -1277,7 +1277,7 @@
     </message>
     <message>
         <source>Setup is ready to begin the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa de instalación está listo para comenzar la instalación.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1285,19 +1285,19 @@
     </message>
     <message>
         <source>When the same file has changed on both sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuando el mismo archivo ha cambiado en ambos lados:</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Calderix Drive. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en Reparar para reparar la instalación de Calderix Drive. Haga clic en Atrás para revisar o cambiar la configuración de la instalación. Haga clic en Cancelar para salir del asistente.</translation>
     </message>
     <message>
         <source>Add Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir tarea de sincronización</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -1305,19 +1305,19 @@
     </message>
     <message>
         <source>This version of Calderix Drive is not supported by the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>El NAS no admite esta versión de Calderix Drive. Actualice Calderix Drive.</translation>
     </message>
     <message>
         <source>Enable sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar la sincronización</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso para acceder a esta carpeta.</translation>
     </message>
     <message>
         <source>The folder %1 is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta %1 es de solo lectura.</translation>
     </message>
     <message>
         <source>Upgrade Calderix Drive</source>
@@ -1325,11 +1325,11 @@
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>El código de verificación no es correcto.</translation>
     </message>
     <message>
         <source>Your files stay available even when this computer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus archivos siguen disponibles incluso cuando este equipo está sin conexión.</translation>
     </message>
     <message>
         <source>Checking data...</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>Log category</source>
-        <translation type="unfinished"></translation>
+        <translation>Categoría del registro</translation>
     </message>
     <message>
         <source>Launch Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar Calderix Drive</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sí</translation>
     </message>
     <message>
         <source>Upgrade failed.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Selective sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de sincronización selectiva</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de inicio de sesión</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos en uso</translation>
     </message>
     <message>
         <source>All events</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiado de nombre en este equipo</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1397,35 +1397,35 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna carpeta que se pueda sincronizar.</translation>
     </message>
     <message>
         <source>Sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de sincronización</translation>
     </message>
     <message>
         <source>One-way sync (download only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronización unidireccional (solo descarga)</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la carpeta compartida del NAS que desea sincronizar.</translation>
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar dispositivos NAS en la red local</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en Quitar para quitar Calderix Drive de su equipo. Haga clic en Atrás para revisar o cambiar la configuración de la instalación. Haga clic en Cancelar para salir del asistente.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración manual del proxy</translation>
     </message>
     <message>
         <source>The shared folder no longer exists on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta compartida ya no existe en el NAS.</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1433,39 +1433,39 @@
     </message>
     <message>
         <source>Stay Informed</source>
-        <translation type="unfinished"></translation>
+        <translation>Manténgase informado</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión directa</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 páginas anteriores</translation>
     </message>
     <message>
         <source>More tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Más consejos</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando con %1...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca un número de puerto entre 1 y 65535.</translation>
     </message>
     <message>
         <source>File selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronización selectiva de archivos</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuota llena</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation type="unfinished"></translation>
+        <translation>Intervalo personalizado</translation>
     </message>
     <message>
         <source>Open Calderix Drive Folder</source>
@@ -1473,15 +1473,15 @@
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta compartida no está montada en el NAS.</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en Instalar para comenzar la instalación. Haga clic en Atrás para revisar o cambiar la configuración de la instalación. Haga clic en Cancelar para salir del asistente.</translation>
     </message>
     <message>
         <source>The remote folder is not available because its volume is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta remota no está disponible porque su volumen no está montado.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>Setup is ready to install Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>El programa de instalación está listo para instalar Calderix Drive.</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado</translation>
     </message>
     <message>
         <source>Quick Setup</source>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Turning off sync for this folder removes it from the sync list. The files stay on the NAS and on this computer. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Si desactiva la sincronización de esta carpeta, se quitará de la lista de sincronización. Los archivos se conservarán en el NAS y en este equipo. ¿Desea continuar?</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar la sincronización de esta carpeta</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation type="unfinished"></translation>
+        <translation>Última página</translation>
     </message>
     <message>
         <source>Delete Link</source>
@@ -1517,23 +1517,23 @@
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar la instalación</translation>
     </message>
     <message>
         <source>A sync task for this folder already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya existe una tarea de sincronización para esta carpeta.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta se sincronizó con otra cuenta de usuario.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha cambiado ninguna configuración.</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No</translation>
     </message>
     <message>
         <source>Sign-in failed. Please check your user name and password.</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Files that match these filters will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos que coincidan con estos filtros no se sincronizarán.</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS.</source>
@@ -1549,11 +1549,11 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo descarga</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvinculando...</translation>
     </message>
     <message>
         <source>Resume Syncing</source>
@@ -1561,63 +1561,63 @@
     </message>
     <message>
         <source>Completed the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha completado el Asistente de instalación de Calderix Drive</translation>
     </message>
     <message>
         <source>Set Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Establecer carpeta de sincronización</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Instalar</translation>
     </message>
     <message>
         <source>Tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía de introducción</translation>
     </message>
     <message>
         <source>Expires after %1 accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Caduca tras %1 accesos</translation>
     </message>
     <message>
         <source>The contents of both folders will be merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se combinará el contenido de ambas carpetas.</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espere mientras el Asistente de instalación instala Calderix Drive.</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes siguiente</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso para realizar esta operación.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts, and registry entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Repara los errores de la instalación más reciente corrigiendo archivos que faltan o están dañados, accesos directos y entradas del Registro.</translation>
     </message>
     <message>
         <source>Sync could not be enabled for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido activar la sincronización para esta carpeta.</translation>
     </message>
     <message>
         <source>No previous version of this file is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna versión anterior de este archivo disponible.</translation>
     </message>
     <message>
         <source>Refresh the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar el registro de sincronización</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en Quitar para quitar Calderix Drive de su equipo.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1625,11 +1625,11 @@
     </message>
     <message>
         <source>Removes Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita Calderix Drive de su equipo.</translation>
     </message>
     <message>
         <source>Repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparar Calderix Drive</translation>
     </message>
     <message>
         <source>Setup Mode</source>
@@ -1637,11 +1637,11 @@
     </message>
     <message>
         <source>File extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión de archivo</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elementos</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1649,31 +1649,31 @@
     </message>
     <message>
         <source>No options available</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay opciones disponibles</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Sync and share your files with your NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronice y comparta sus archivos con su NAS.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Permiso denegado</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Desde</translation>
     </message>
     <message>
         <source>Renamed on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiado de nombre en el NAS</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive. This may take several minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Espere mientras el Asistente de instalación instala Calderix Drive. Esta operación puede tardar varios minutos.</translation>
     </message>
     <message>
         <source>Start Calderix Drive when I log in</source>
@@ -1681,23 +1681,23 @@
     </message>
     <message>
         <source>This wizard will guide you through the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este asistente le guiará durante la instalación.</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de archivo</translation>
     </message>
     <message>
         <source>Keep the most recently modified file</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar el archivo modificado más recientemente</translation>
     </message>
     <message>
         <source>This computer is already paired with this NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este equipo ya está vinculado con este NAS.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lea atentamente el siguiente contrato de licencia.</translation>
     </message>
     <message>
         <source>Calderix Drive could not be started.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>The NAS package is too old for this version of Calderix Drive. Please update the package on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete del NAS es demasiado antiguo para esta versión de Calderix Drive. Actualice el paquete en el NAS.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1717,11 +1717,11 @@
     </message>
     <message>
         <source>New Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo recurso compartido</translation>
     </message>
     <message>
         <source>Please enter the verification code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzca el código de verificación.</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1729,11 +1729,11 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>The new language will be used after Calderix Drive restarts.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor</translation>
     </message>
     <message>
         <source>Calderix Drive is initializing...</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink from %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Está seguro de que desea desvincularse de %1?</translation>
     </message>
     <message>
         <source>June</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Calderix Drive has been installed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive se ha instalado correctamente.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -1769,15 +1769,15 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No acepto los términos del contrato de licencia</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>Search the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en la red local</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>Synchronization mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de sincronización</translation>
     </message>
     <message>
         <source>History</source>
@@ -1797,19 +1797,19 @@
     </message>
     <message>
         <source>Local sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de sincronización local</translation>
     </message>
     <message>
         <source>You have chosen to remove the program from your system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha elegido quitar el programa del sistema.</translation>
     </message>
     <message>
         <source>Calderix Drive has no independent features to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive no tiene características independientes que cambiar.</translation>
     </message>
     <message>
         <source>Not needed</source>
-        <translation type="unfinished"></translation>
+        <translation>No es necesario</translation>
     </message>
     <message>
         <source>Calderix Drive will now sync your files with the NAS.</source>
@@ -1817,27 +1817,27 @@
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus cambios no se han guardado. ¿Desea guardarlos?</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar idioma</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino local</translation>
     </message>
     <message>
         <source>Connections from this IP address are blocked by the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>El NAS bloquea las conexiones desde esta dirección IP.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay instalada una versión más reciente de Calderix Drive.</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Download a previous version</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar una versión anterior</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -1857,11 +1857,11 @@
     </message>
     <message>
         <source>A network error occurred while checking the sync folder. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha producido un error de red al comprobar la carpeta de sincronización. Vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>Certificate error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de certificado</translation>
     </message>
     <message>
         <source>Calderix Drive</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Click Repair to repair Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga clic en Reparar para reparar Calderix Drive.</translation>
     </message>
     <message>
         <source>File</source>
@@ -1881,15 +1881,15 @@
     </message>
     <message>
         <source>Change, repair, or remove Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar, reparar o quitar Calderix Drive.</translation>
     </message>
     <message>
         <source>Updated files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos actualizados</translation>
     </message>
     <message>
         <source>Sync task</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarea de sincronización</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1897,15 +1897,15 @@
     </message>
     <message>
         <source>Delete the downloaded version</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar la versión descargada</translation>
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos excluidos</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración personalizada</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your user account.</source>
@@ -1913,11 +1913,11 @@
     </message>
     <message>
         <source>Change the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar la instalación</translation>
     </message>
     <message>
         <source>This folder is read-only. Changes are not synced to the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta carpeta es de solo lectura. Los cambios no se sincronizan con el NAS.</translation>
     </message>
     <message>
         <source>Choose Another</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Automatic connection failed because of a system error.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conexión automática ha fallado debido a un error del sistema.</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiados recientemente</translation>
     </message>
     <message>
         <source>Calderix Drive is ready.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>NAS storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>El almacenamiento del NAS está lleno</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The storage quota of this shared folder is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cuota de almacenamiento de esta carpeta compartida está llena.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>Incompatible version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión incompatible</translation>
     </message>
     <message>
         <source>Send to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar a %1</translation>
     </message>
     <message>
         <source>You can change these settings at any time.</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>An error occurred during the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha producido un error durante la instalación.</translation>
     </message>
     <message>
         <source>Pair with a NAS</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>&amp;Do not close applications. A restart will be required.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No cerrar las aplicaciones. Será necesario reiniciar.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Finalizar</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar y copiar enlace</translation>
     </message>
     <message>
         <source>Pause Syncing</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a Calderix Drive folder on this computer.</source>
@@ -2017,23 +2017,23 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga unidireccional</translation>
     </message>
     <message>
         <source>Select the folder that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la carpeta que desea sincronizar.</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes anterior</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio de carpetas personales está desactivado en el NAS.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your connection.</source>
@@ -2045,23 +2045,23 @@
     </message>
     <message>
         <source>Sharing links need the Ostrel service, which is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los enlaces para compartir necesitan el servicio Ostrel, que está desactivado en el NAS.</translation>
     </message>
     <message>
         <source>Double-click action</source>
-        <translation type="unfinished"></translation>
+        <translation>Acción al hacer doble clic</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar la sincronización a petición</translation>
     </message>
     <message>
         <source>Files whose names begin with a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos cuyo nombre empieza por un punto</translation>
     </message>
     <message>
         <source>The NAS package does not support this version of Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>El paquete del NAS no admite esta versión de Calderix Drive.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2081,15 +2081,15 @@
     </message>
     <message>
         <source>Close the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar la guía de introducción</translation>
     </message>
     <message>
         <source>The shared folder %1 is already synced with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta compartida %1 ya está sincronizada con %2.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Calderix Drive manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido realizar la configuración automática. Configure Calderix Drive manualmente.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Filter the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar el registro de sincronización</translation>
     </message>
     <message>
         <source>January</source>
@@ -2105,15 +2105,15 @@
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin permiso</translation>
     </message>
     <message>
         <source>Loading sync folders...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando carpetas de sincronización...</translation>
     </message>
     <message>
         <source>Choose what to do when setup finishes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija qué hacer cuando finalice la configuración.</translation>
     </message>
 </context>
 </TS>
