@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Konec</translation>
     </message>
     <message>
         <source>Calderix Drive keeps the files on this computer in sync with your NAS. Click Start Now to pair this computer with your NAS.</source>
@@ -21,75 +21,75 @@
     </message>
     <message>
         <source>Uploading</source>
-        <translation type="unfinished"></translation>
+        <translation>Nahrávání</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation type="unfinished"></translation>
+        <translation>První stránka</translation>
     </message>
     <message>
         <source>You can create no more than %1 sharing links.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální počet odkazů pro sdílení: %1.</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory větší než %1 MB nebudou synchronizovány.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizace na vyžádání</translation>
     </message>
     <message>
         <source>The selected folder cannot be used as a sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybranou složku nelze použít jako synchronizovanou složku. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>Sync temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizovat dočasné soubory</translation>
     </message>
     <message>
         <source>Farrowlink relay</source>
-        <translation type="unfinished"></translation>
+        <translation>Přenos přes Farrowlink</translation>
     </message>
     <message>
         <source>Keep both files and rename the conflicting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachovat oba soubory a konfliktní soubor přejmenovat</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Umožňuje změnit způsob instalace funkcí.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tisk</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Calderix Drive is installed on your computer, repair it, or remove it. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průvodce instalací umožňuje změnit způsob instalace aplikace Calderix Drive v počítači, opravit ji nebo ji odebrat. Pokračujte kliknutím na tlačítko Další, nebo průvodce instalací ukončete kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
         <source>%1 shared a folder with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s vámi sdílí složku.</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Dokončit ukončete průvodce instalací.</translation>
     </message>
     <message>
         <source>Choose a different local folder or a different shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte jinou místní složku nebo jinou sdílenou složku na zařízení NAS.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace byla dokončena.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Do</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Omezit počet přístupů</translation>
     </message>
     <message>
         <source>October</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>A sharing link cannot be created for this item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro tuto položku nelze vytvořit odkaz pro sdílení.</translation>
     </message>
     <message>
         <source>Server address details</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrobnosti adresy serveru</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -113,23 +113,23 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the setting on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Směr synchronizace této složky neodpovídá nastavení na zařízení NAS.</translation>
     </message>
     <message>
         <source>You need administrator rights to install Calderix Drive. Do you want to continue anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>K instalaci aplikace Calderix Drive potřebujete oprávnění správce. Chcete přesto pokračovat?</translation>
     </message>
     <message>
         <source>This folder overlaps with an existing sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato složka se překrývá s existující synchronizovanou složkou. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>Sync Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizované složky</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Jen pro čtení</translation>
     </message>
     <message>
         <source>Add</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space or ask your administrator for a larger quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše kvóta úložiště na zařízení NAS je vyčerpána. Uvolněte místo nebo požádejte správce o vyšší kvótu.</translation>
     </message>
     <message>
         <source>Automatic connection was cancelled by the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatické připojení bylo zrušeno správcem.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -161,19 +161,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace aplikace Calderix Drive byla předčasně ukončena</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Neplatný parametr.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. You can close them and click Retry, or click Ignore to continue anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>Následující aplikace používají soubory, které musí instalační program aktualizovat. Můžete je zavřít a kliknout na tlačítko Opakovat, nebo kliknutím na tlačítko Ignorovat přesto pokračovat.</translation>
     </message>
     <message>
         <source>This folder is being indexed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato složka se indexuje.</translation>
     </message>
     <message>
         <source>November</source>
@@ -185,23 +185,23 @@
     </message>
     <message>
         <source>Download History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historie stahování</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Souhrn</translation>
     </message>
     <message>
         <source>Merge files from both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Sloučit soubory z obou stran</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazit návod</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit synchronizovanou složku</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Change Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit složku</translation>
     </message>
     <message>
         <source>About Calderix Drive</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Files excluded from sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory vyloučené ze synchronizace</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -241,19 +241,19 @@
     </message>
     <message>
         <source>There is not enough free space on the disk of this folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Na disku této složky není dostatek volného místa. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk je plný</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Režim synchronizace</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>Klíčové slovo</translation>
     </message>
     <message>
         <source>Done</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Changes made by other computers on a network drive may not be detected right away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změny provedené jinými počítači na síťové jednotce nemusí být zjištěny okamžitě.</translation>
     </message>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte uživatelské jméno.</translation>
     </message>
     <message>
         <source>Checking your user name and password...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrola uživatelského jména a hesla...</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>Shared folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílená složka</translation>
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space before syncing this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše kvóta úložiště na zařízení NAS je vyčerpána. Před synchronizací této složky uvolněte místo.</translation>
     </message>
     <message>
         <source>The server replied with an unexpected response.</source>
-        <translation type="unfinished"></translation>
+        <translation>Server vrátil neočekávanou odpověď.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní síť</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální počet znaků: %1.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit složku</translation>
     </message>
     <message>
         <source>Folders you deselect will be removed from this computer but stay on the NAS. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Složky, u kterých zrušíte výběr, budou odebrány z tohoto počítače, ale zůstanou na zařízení NAS. Chcete pokračovat?</translation>
     </message>
     <message>
         <source>Open Calderix Drive</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Popis</translation>
     </message>
     <message>
         <source>Maximum file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximální velikost souboru</translation>
     </message>
     <message>
         <source>This version of Calderix Drive is too old for the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato verze aplikace Calderix Drive je pro zařízení NAS příliš stará. Proveďte upgrade aplikace Calderix Drive.</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -353,15 +353,15 @@
     </message>
     <message>
         <source>Stop the version download</source>
-        <translation type="unfinished"></translation>
+        <translation>Zastavit stahování verze</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Cíl</translation>
     </message>
     <message>
         <source>%1 shared the folder %2 with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s vámi sdílí složku %2.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -369,19 +369,19 @@
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka není prázdná</translation>
     </message>
     <message>
         <source>&amp;Close the applications and attempt to restart them.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Zavřít aplikace a pokusit se je restartovat.</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalendář</translation>
     </message>
     <message>
         <source>Keep conflicting files in a separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Uchovat konfliktní soubory v samostatné složce</translation>
     </message>
     <message>
         <source>July</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 je přípojný bod a nelze jej použít jako synchronizovanou složku.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Další stránky (%1)</translation>
     </message>
     <message>
         <source>There are no records to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou k dispozici žádné záznamy.</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizační úlohy</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Testování připojení...</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this sync task? The files on this computer and on the NAS will be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravdu chcete odpojit tuto synchronizační úlohu? Soubory v tomto počítači i na zařízení NAS zůstanou zachovány.</translation>
     </message>
     <message>
         <source>Connecting...</source>
@@ -417,19 +417,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely because of an error. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace aplikace Calderix Drive byla kvůli chybě předčasně ukončena. Systém nebyl změněn. Chcete-li tento program nainstalovat později, spusťte znovu průvodce instalací.</translation>
     </message>
     <message>
         <source>A secure connection to the NAS could not be established.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zabezpečené připojení k zařízení NAS nelze navázat.</translation>
     </message>
     <message>
         <source>Sync direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Směr synchronizace</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Problém se synchronizací</translation>
     </message>
     <message>
         <source>Information</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Files on this computer that conflict with files on the NAS will be renamed and kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory v tomto počítači, které jsou v konfliktu se soubory na zařízení NAS, budou přejmenovány a zachovány.</translation>
     </message>
     <message>
         <source>Get sharing link</source>
@@ -465,19 +465,19 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Neshoda verzí</translation>
     </message>
     <message>
         <source>Failed to download %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stažení %1 se nezdařilo.</translation>
     </message>
     <message>
         <source>The disk of this computer is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk tohoto počítače je plný.</translation>
     </message>
     <message>
         <source>Please update the NAS package to use selective sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chcete-li používat selektivní synchronizaci, aktualizujte balíček na zařízení NAS.</translation>
     </message>
     <message>
         <source>The user name or password is incorrect.</source>
@@ -485,87 +485,87 @@
     </message>
     <message>
         <source>This sync folder belongs to a different NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato synchronizovaná složka patří jinému zařízení NAS.</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazovat ikony stavu synchronizace u souborů a složek</translation>
     </message>
     <message>
         <source>Setup was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace byla přerušena.</translation>
     </message>
     <message>
         <source>The folder %1 is not empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka %1 není prázdná.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokončování nastavení...</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtr</translation>
     </message>
     <message>
         <source>On-demand sync could not be enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizaci na vyžádání nelze zapnout.</translation>
     </message>
     <message>
         <source>The download was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahování bylo zastaveno.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce</translation>
     </message>
     <message>
         <source>A new sync task will be created for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pro %1 bude vytvořena nová synchronizační úloha.</translation>
     </message>
     <message>
         <source>Resume syncing these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit synchronizaci těchto složek</translation>
     </message>
     <message>
         <source>Ready to repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše je připraveno k opravě aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>Sync with a new NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizovat s novým zařízením NAS</translation>
     </message>
     <message>
         <source>The certificate of the NAS could not be verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikát zařízení NAS nelze ověřit.</translation>
     </message>
     <message>
         <source>The connection ID is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>ID připojení není platné.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is available. Upgrade now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Je k dispozici novější verze aplikace Calderix Drive. Provést upgrade nyní?</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikát zařízení NAS se změnil.</translation>
     </message>
     <message>
         <source>Right-click a file in your sync folder to get a sharing link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klikněte pravým tlačítkem myši na soubor v synchronizované složce a získejte odkaz pro sdílení.</translation>
     </message>
     <message>
         <source>The folder is not empty. Do you want to merge its contents with the folder on the NAS?</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka není prázdná. Chcete sloučit její obsah se složkou na zařízení NAS?</translation>
     </message>
     <message>
         <source>More details</source>
-        <translation type="unfinished"></translation>
+        <translation>Další podrobnosti</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Zkusit znovu</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -573,19 +573,19 @@
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte operaci, kterou chcete provést.</translation>
     </message>
     <message>
         <source>Your files, everywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše soubory všude.</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Licenční smlouva s koncovým uživatelem</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Název souboru</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Internet</source>
-        <translation type="unfinished"></translation>
+        <translation>Internet</translation>
     </message>
     <message>
         <source>Port</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Některé soubory, které je třeba aktualizovat, se právě používají.</translation>
     </message>
     <message>
         <source>The set-up key has already been configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>Klíč nastavení již byl nakonfigurován.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -613,15 +613,15 @@
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravit instalaci</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation type="unfinished"></translation>
+        <translation>K dispozici od</translation>
     </message>
     <message>
         <source>Overwrite the file on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Přepsat soubor v tomto počítači</translation>
     </message>
     <message>
         <source>Help</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte adresu a port proxy serveru.</translation>
     </message>
     <message>
         <source>The selected folder is read-only. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vybraná složka je jen pro čtení. Zvolte jinou složku.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Přenosová připojení jsou na zařízení NAS zakázána.</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -645,19 +645,19 @@
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opravit</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed since this folder was last synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikát zařízení NAS se od poslední synchronizace této složky změnil.</translation>
     </message>
     <message>
         <source>Create a Calderix Drive folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořit složku Calderix Drive</translation>
     </message>
     <message>
         <source>Show icons on files that are not synced</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazovat ikony u souborů, které se nesynchronizují</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -665,51 +665,51 @@
     </message>
     <message>
         <source>Restrict access</source>
-        <translation type="unfinished"></translation>
+        <translation>Omezit přístup</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Zpět</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozsah dat</translation>
     </message>
     <message>
         <source>The local sync folder %1 cannot be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní synchronizovanou složku %1 nelze najít.</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Procházet předchozí verze</translation>
     </message>
     <message>
         <source>Detecting the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjišťování připojení...</translation>
     </message>
     <message>
         <source>Advanced Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Průvodce pokročilým nastavením</translation>
     </message>
     <message>
         <source>Files you put in your sync folder are kept up to date on the NAS and on all your computers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, které vložíte do synchronizované složky, jsou udržovány aktuální na zařízení NAS i ve všech vašich počítačích.</translation>
     </message>
     <message>
         <source>The sharing link could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkaz pro sdílení nelze odstranit.</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odebrat</translation>
     </message>
     <message>
         <source>Server address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresa serveru</translation>
     </message>
     <message>
         <source>Installing Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>User name</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Možnosti</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -729,23 +729,23 @@
     </message>
     <message>
         <source>Connected to a different NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojeno k jinému zařízení NAS</translation>
     </message>
     <message>
         <source>Share Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílení souborů</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Změnit</translation>
     </message>
     <message>
         <source>The local folder could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní složku nelze vytvořit.</translation>
     </message>
     <message>
         <source>Secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zabezpečené připojení (SSL)</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace aplikace Calderix Drive byla přerušena. Systém nebyl změněn. Chcete-li tento program nainstalovat později, spusťte znovu průvodce instalací.</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -761,27 +761,27 @@
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Další &gt;</translation>
     </message>
     <message>
         <source>This item cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuto položku nelze stáhnout.</translation>
     </message>
     <message>
         <source>The local database could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní databázi nelze otevřít.</translation>
     </message>
     <message>
         <source>Apply to all subfolders</source>
-        <translation type="unfinished"></translation>
+        <translation>Použít na všechny podsložky</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesynchronizovat tyto složky</translation>
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahování %1 bylo dokončeno.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Duplicate Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplicitní synchronizační úloha</translation>
     </message>
     <message>
         <source>The NAS requires two-step verification for your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zařízení NAS vyžaduje pro váš účet dvoustupňové ověření.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Do you want to delete this sharing link?</source>
-        <translation type="unfinished"></translation>
+        <translation>Chcete odstranit tento odkaz pro sdílení?</translation>
     </message>
     <message>
         <source>Calderix Drive is already running.</source>
@@ -809,23 +809,23 @@
     </message>
     <message>
         <source>Security Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Upozornění zabezpečení</translation>
     </message>
     <message>
         <source>Open sync status</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevřít stav synchronizace</translation>
     </message>
     <message>
         <source>This system folder cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuto systémovou složku nelze použít jako synchronizovanou složku.</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesynchronizovat tuto složku</translation>
     </message>
     <message>
         <source>Click the Calderix Drive icon in the menu bar to see the sync status and change settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na ikonu Calderix Drive na řádku nabídek zobrazíte stav synchronizace a můžete změnit nastavení.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>The certificate of the NAS could not be verified. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikát zařízení NAS nelze ověřit. Chcete pokračovat?</translation>
     </message>
     <message>
         <source>This file does not belong to any connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento soubor nepatří k žádnému připojení.</translation>
     </message>
     <message>
         <source>Access Anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Přístup odkudkoli</translation>
     </message>
     <message>
         <source>December</source>
@@ -861,11 +861,11 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy server vyžaduje heslo</translation>
     </message>
     <message>
         <source>Sync folder on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizovaná složka na zařízení NAS</translation>
     </message>
     <message>
         <source>Choose the shared folder, the local folder and the sync options yourself.</source>
@@ -873,35 +873,35 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory s těmito názvy nebudou synchronizovány.</translation>
     </message>
     <message>
         <source>Welcome to the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Vítá vás průvodce instalací aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Některá pole obsahují neplatné hodnoty.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Probíhá použití nastavení...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Calderix Drive installation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravdu chcete zrušit instalaci aplikace Calderix Drive?</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Calderix Drive on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Průvodce instalací nainstaluje aplikaci Calderix Drive do vašeho počítače. Pokračujte kliknutím na tlačítko Další, nebo průvodce instalací ukončete kliknutím na tlačítko Zrušit.</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>Přípojný bod není podporován</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -909,23 +909,23 @@
     </message>
     <message>
         <source>Folder name</source>
-        <translation type="unfinished"></translation>
+        <translation>Název složky</translation>
     </message>
     <message>
         <source>NAS overview</source>
-        <translation type="unfinished"></translation>
+        <translation>Přehled zařízení NAS</translation>
     </message>
     <message>
         <source>I &amp;accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Souhlasím s podmínkami licenční smlouvy</translation>
     </message>
     <message>
         <source>Calderix Drive status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>Sync Your Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizujte své soubory</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>This version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato verze aplikace Calderix Drive je již nainstalována.</translation>
     </message>
     <message>
         <source>Remove Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat aplikaci Calderix Drive</translation>
     </message>
     <message>
         <source>September</source>
@@ -957,15 +957,15 @@
     </message>
     <message>
         <source>Anyone with the link can open the file in a web browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kdokoli s odkazem může soubor otevřít ve webovém prohlížeči.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Váš účet na zařízení NAS byl zakázán.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ignorovat</translation>
     </message>
     <message>
         <source>May</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebrat instalaci</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -981,19 +981,19 @@
     </message>
     <message>
         <source>Calderix Drive could not be upgraded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Upgrade aplikace Calderix Drive se nezdařil.</translation>
     </message>
     <message>
         <source>Your user information could not be retrieved from the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Informace o uživateli nelze ze zařízení NAS načíst.</translation>
     </message>
     <message>
         <source>Connection type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ připojení</translation>
     </message>
     <message>
         <source>Ready to install Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Vše je připraveno k instalaci aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
@@ -1001,11 +1001,11 @@
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Složky</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořeno</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte složku</translation>
     </message>
     <message>
         <source>Folder selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektivní synchronizace složek</translation>
     </message>
     <message>
         <source>February</source>
@@ -1025,23 +1025,23 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalace aplikace Calderix Drive byla přerušena</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Platnost vašeho hesla vypršela. Změňte ho na zařízení NAS.</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte ověřovací kód</translation>
     </message>
     <message>
         <source>The user name or password for the proxy server is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uživatelské jméno nebo heslo pro proxy server není správné.</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation type="unfinished"></translation>
+        <translation>Platnost do</translation>
     </message>
     <message>
         <source>Your files are now kept in sync with the NAS.</source>
@@ -1049,23 +1049,23 @@
     </message>
     <message>
         <source>Sharing links are not available over a Farrowlink connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkazy pro sdílení nejsou při připojení přes Farrowlink k dispozici.</translation>
     </message>
     <message>
         <source>Show Calderix Drive in the context menu</source>
-        <translation type="unfinished"></translation>
+        <translation>Zobrazovat Calderix Drive v místní nabídce</translation>
     </message>
     <message>
         <source>The Ostrel service is disabled on the NAS. Please ask your administrator to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba Ostrel je na zařízení NAS zakázána. Požádejte správce o její povolení.</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Některé soubory nelze synchronizovat.</translation>
     </message>
     <message>
         <source>Folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Cesta ke složce</translation>
     </message>
     <message>
         <source>Calderix Drive is starting...</source>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Use a black-and-white menu bar icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Používat černobílou ikonu na řádku nabídek</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Průběh</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>Neaktivní</translation>
     </message>
     <message>
         <source>This shared folder is already synced to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato sdílená složka je již synchronizována s jinou složkou.</translation>
     </message>
     <message>
         <source>General</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Open your synced files from any computer paired with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Otevírejte synchronizované soubory z libovolného počítače spárovaného se zařízením NAS.</translation>
     </message>
     <message>
         <source>The link to the file could not be retrieved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkaz na soubor nelze získat.</translation>
     </message>
     <message>
         <source>No proxy</source>
@@ -1121,11 +1121,11 @@
     </message>
     <message>
         <source>This field cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toto pole nemůže být prázdné.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Opakovat</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>Checking for changes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Zjišťování změn...</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1145,31 +1145,31 @@
     </message>
     <message>
         <source>Remote destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdálený cíl</translation>
     </message>
     <message>
         <source>Read-only Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka jen pro čtení</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit, opravit nebo odebrat instalaci</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nová synchronizovaná složka</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
-        <translation type="unfinished"></translation>
+        <translation>Načítání seznamu složek...</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated by this setup. Close these applications and click Retry to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Následující aplikace používají soubory, které musí tato instalace aktualizovat. Zavřete tyto aplikace a pokračujte kliknutím na tlačítko Opakovat.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1181,39 +1181,39 @@
     </message>
     <message>
         <source>Connect through Farrowlink</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojit přes Farrowlink</translation>
     </message>
     <message>
         <source>A file with the same name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubor se stejným názvem již existuje.</translation>
     </message>
     <message>
         <source>Create a new folder to sync with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vytvořte novou složku pro synchronizaci se zařízením NAS.</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed. Do you trust the new certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>Certifikát zařízení NAS se změnil. Důvěřujete novému certifikátu?</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Verze tohoto souboru nelze vypsat.</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat název souboru</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifikátor</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahování %1...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Příliš mnoho neúspěšných pokusů. Zkuste to znovu později.</translation>
     </message>
     <message>
         <source>April</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Sharing enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílení zapnuto</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Počítač</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>Ostrel disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba Ostrel je zakázána</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1253,15 +1253,15 @@
     </message>
     <message>
         <source>The volume of the sync folder %1 is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Svazek synchronizované složky %1 není připojen.</translation>
     </message>
     <message>
         <source>This folder is already synced with the same shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato složka je již synchronizována se stejnou sdílenou složkou na zařízení NAS.</translation>
     </message>
     <message>
         <source>Shared folder missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílená složka chybí</translation>
     </message>
     <message>
         <source>Click to update Calderix Drive</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Use a secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Používat zabezpečené připojení (SSL)</translation>
     </message>
     <message>
         <source>Open file</source>
@@ -1277,7 +1277,7 @@
     </message>
     <message>
         <source>Setup is ready to begin the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalační program je připraven zahájit instalaci.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1285,19 +1285,19 @@
     </message>
     <message>
         <source>When the same file has changed on both sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Když se stejný soubor změní na obou stranách:</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Calderix Drive. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Opravit opravíte instalaci aplikace Calderix Drive. Kliknutím na tlačítko Zpět můžete zkontrolovat nebo změnit nastavení instalace. Kliknutím na tlačítko Zrušit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>Add Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat synchronizační úlohu</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Příprava</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -1305,19 +1305,19 @@
     </message>
     <message>
         <source>This version of Calderix Drive is not supported by the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato verze aplikace Calderix Drive není zařízením NAS podporována. Proveďte upgrade aplikace Calderix Drive.</translation>
     </message>
     <message>
         <source>Enable sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapnout synchronizaci</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>K přístupu k této složce nemáte oprávnění.</translation>
     </message>
     <message>
         <source>The folder %1 is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>Složka %1 je jen pro čtení.</translation>
     </message>
     <message>
         <source>Upgrade Calderix Drive</source>
@@ -1325,11 +1325,11 @@
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ověřovací kód není správný.</translation>
     </message>
     <message>
         <source>Your files stay available even when this computer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaše soubory zůstanou dostupné, i když je tento počítač offline.</translation>
     </message>
     <message>
         <source>Checking data...</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>Log category</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategorie protokolu</translation>
     </message>
     <message>
         <source>Launch Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Spustit aplikaci Calderix Drive</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ano</translation>
     </message>
     <message>
         <source>Upgrade failed.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Selective sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Režim selektivní synchronizace</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Přihlášení se nezdařilo</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Používané soubory</translation>
     </message>
     <message>
         <source>All events</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenováno v tomto počítači</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1397,35 +1397,35 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Není k dispozici žádná složka, kterou lze synchronizovat.</translation>
     </message>
     <message>
         <source>Sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizovaná složka</translation>
     </message>
     <message>
         <source>One-way sync (download only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednosměrná synchronizace (pouze stahování)</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte sdílenou složku na zařízení NAS, kterou chcete synchronizovat.</translation>
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyhledat zařízení NAS v místní síti</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Odebrat odeberete aplikaci Calderix Drive z počítače. Kliknutím na tlačítko Zpět můžete zkontrolovat nebo změnit nastavení instalace. Kliknutím na tlačítko Zrušit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruční konfigurace proxy serveru</translation>
     </message>
     <message>
         <source>The shared folder no longer exists on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílená složka již na zařízení NAS neexistuje.</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1433,39 +1433,39 @@
     </message>
     <message>
         <source>Stay Informed</source>
-        <translation type="unfinished"></translation>
+        <translation>Mějte přehled</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Přímé připojení</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí stránky (%1)</translation>
     </message>
     <message>
         <source>More tips</source>
-        <translation type="unfinished"></translation>
+        <translation>Další tipy</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojování k %1...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte číslo portu od 1 do 65535.</translation>
     </message>
     <message>
         <source>File selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Selektivní synchronizace souborů</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvóta je vyčerpána</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlastní rozsah</translation>
     </message>
     <message>
         <source>Open Calderix Drive Folder</source>
@@ -1473,15 +1473,15 @@
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílená složka není na zařízení NAS připojena.</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Instalovat zahájíte instalaci. Kliknutím na tlačítko Zpět můžete zkontrolovat nebo změnit nastavení instalace. Kliknutím na tlačítko Zrušit průvodce ukončíte.</translation>
     </message>
     <message>
         <source>The remote folder is not available because its volume is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vzdálená složka není dostupná, protože její svazek není připojen.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>Setup is ready to install Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Instalační program je připraven nainstalovat aplikaci Calderix Drive.</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zamčeno</translation>
     </message>
     <message>
         <source>Quick Setup</source>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Turning off sync for this folder removes it from the sync list. The files stay on the NAS and on this computer. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Vypnutím synchronizace této složky ji odeberete ze seznamu synchronizace. Soubory zůstanou na zařízení NAS i v tomto počítači. Pokračovat?</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Obnovit synchronizaci této složky</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation type="unfinished"></translation>
+        <translation>Poslední stránka</translation>
     </message>
     <message>
         <source>Delete Link</source>
@@ -1517,23 +1517,23 @@
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Zrušit instalaci</translation>
     </message>
     <message>
         <source>A sync task for this folder already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizační úloha pro tuto složku již existuje.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato složka byla synchronizována jiným uživatelským účtem.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nebyla změněna žádná nastavení.</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne</translation>
     </message>
     <message>
         <source>Sign-in failed. Please check your user name and password.</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Files that match these filters will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory odpovídající těmto filtrům nebudou synchronizovány.</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS.</source>
@@ -1549,11 +1549,11 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouze stahování</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Odpojování...</translation>
     </message>
     <message>
         <source>Resume Syncing</source>
@@ -1561,63 +1561,63 @@
     </message>
     <message>
         <source>Completed the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Dokončení průvodce instalací aplikace Calderix Drive</translation>
     </message>
     <message>
         <source>Set Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Nastavit synchronizovanou složku</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Instalovat</translation>
     </message>
     <message>
         <source>Tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Návod</translation>
     </message>
     <message>
         <source>Expires after %1 accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Platnost vyprší po počtu přístupů: %1</translation>
     </message>
     <message>
         <source>The contents of both folders will be merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Obsah obou složek bude sloučen.</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počkejte, než průvodce instalací nainstaluje aplikaci Calderix Drive.</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Další měsíc</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Stahování</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>K provedení této operace nemáte oprávnění.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts, and registry entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Opraví chyby v poslední instalaci obnovením chybějících a poškozených souborů, zástupců a položek registru.</translation>
     </message>
     <message>
         <source>Sync could not be enabled for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizaci této složky nelze zapnout.</translation>
     </message>
     <message>
         <source>No previous version of this file is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>Žádná předchozí verze tohoto souboru není k dispozici.</translation>
     </message>
     <message>
         <source>Refresh the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizovat protokol synchronizace</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Odebrat odeberete aplikaci Calderix Drive z počítače.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1625,11 +1625,11 @@
     </message>
     <message>
         <source>Removes Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odebere aplikaci Calderix Drive z počítače.</translation>
     </message>
     <message>
         <source>Repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravit aplikaci Calderix Drive</translation>
     </message>
     <message>
         <source>Setup Mode</source>
@@ -1637,11 +1637,11 @@
     </message>
     <message>
         <source>File extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Přípona souboru</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>Položky: %1</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1649,31 +1649,31 @@
     </message>
     <message>
         <source>No options available</source>
-        <translation type="unfinished"></translation>
+        <translation>Nejsou k dispozici žádné možnosti</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Síť</translation>
     </message>
     <message>
         <source>Sync and share your files with your NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizujte a sdílejte soubory pomocí zařízení NAS.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Přístup odepřen</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Od</translation>
     </message>
     <message>
         <source>Renamed on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Přejmenováno na zařízení NAS</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive. This may take several minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Počkejte, než průvodce instalací nainstaluje aplikaci Calderix Drive. Může to trvat několik minut.</translation>
     </message>
     <message>
         <source>Start Calderix Drive when I log in</source>
@@ -1681,23 +1681,23 @@
     </message>
     <message>
         <source>This wizard will guide you through the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento průvodce vás provede instalací.</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Typ souboru</translation>
     </message>
     <message>
         <source>Keep the most recently modified file</source>
-        <translation type="unfinished"></translation>
+        <translation>Zachovat naposledy změněný soubor</translation>
     </message>
     <message>
         <source>This computer is already paired with this NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tento počítač je již s tímto zařízením NAS spárován.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pečlivě si přečtěte následující licenční smlouvu.</translation>
     </message>
     <message>
         <source>Calderix Drive could not be started.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>The NAS package is too old for this version of Calderix Drive. Please update the package on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Balíček na zařízení NAS je pro tuto verzi aplikace Calderix Drive příliš starý. Aktualizujte balíček na zařízení NAS.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1717,11 +1717,11 @@
     </message>
     <message>
         <source>New Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Nové sdílení</translation>
     </message>
     <message>
         <source>Please enter the verification code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zadejte ověřovací kód.</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1729,11 +1729,11 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>a další (%1)</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Resetovat</translation>
     </message>
     <message>
         <source>The new language will be used after Calderix Drive restarts.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Hodnota</translation>
     </message>
     <message>
         <source>Calderix Drive is initializing...</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink from %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Opravdu se chcete odpojit od %1?</translation>
     </message>
     <message>
         <source>June</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Calderix Drive has been installed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplikace Calderix Drive byla úspěšně nainstalována.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -1769,15 +1769,15 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nesouhlasím s podmínkami licenční smlouvy</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>V pohotovosti</translation>
     </message>
     <message>
         <source>Search the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Prohledat místní síť</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>Synchronization mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Způsob synchronizace</translation>
     </message>
     <message>
         <source>History</source>
@@ -1797,19 +1797,19 @@
     </message>
     <message>
         <source>Local sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní synchronizovaná složka</translation>
     </message>
     <message>
         <source>You have chosen to remove the program from your system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rozhodli jste se odebrat program ze systému.</translation>
     </message>
     <message>
         <source>Calderix Drive has no independent features to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplikace Calderix Drive nemá žádné samostatné funkce, které by bylo možné změnit.</translation>
     </message>
     <message>
         <source>Not needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Není potřeba</translation>
     </message>
     <message>
         <source>Calderix Drive will now sync your files with the NAS.</source>
@@ -1817,27 +1817,27 @@
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Změny nebyly uloženy. Chcete je uložit?</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit jazyk</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Místní cíl</translation>
     </message>
     <message>
         <source>Connections from this IP address are blocked by the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Připojení z této IP adresy jsou zařízením NAS blokována.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Je již nainstalována novější verze aplikace Calderix Drive.</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Stav:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Download a previous version</source>
-        <translation type="unfinished"></translation>
+        <translation>Stáhnout předchozí verzi</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -1857,11 +1857,11 @@
     </message>
     <message>
         <source>A network error occurred while checking the sync folder. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Při kontrole synchronizované složky došlo k chybě sítě. Zkuste to znovu.</translation>
     </message>
     <message>
         <source>Certificate error</source>
-        <translation type="unfinished"></translation>
+        <translation>Chyba certifikátu</translation>
     </message>
     <message>
         <source>Calderix Drive</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Click Repair to repair Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kliknutím na tlačítko Opravit opravíte aplikaci Calderix Drive.</translation>
     </message>
     <message>
         <source>File</source>
@@ -1881,15 +1881,15 @@
     </message>
     <message>
         <source>Change, repair, or remove Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Změňte, opravte nebo odeberte aplikaci Calderix Drive.</translation>
     </message>
     <message>
         <source>Updated files</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualizované soubory</translation>
     </message>
     <message>
         <source>Sync task</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronizační úloha</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1897,15 +1897,15 @@
     </message>
     <message>
         <source>Delete the downloaded version</source>
-        <translation type="unfinished"></translation>
+        <translation>Odstranit staženou verzi</translation>
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyloučené soubory</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Vlastní doba platnosti</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your user account.</source>
@@ -1913,11 +1913,11 @@
     </message>
     <message>
         <source>Change the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>Změnit instalaci</translation>
     </message>
     <message>
         <source>This folder is read-only. Changes are not synced to the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tato složka je jen pro čtení. Změny se nesynchronizují do zařízení NAS.</translation>
     </message>
     <message>
         <source>Choose Another</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Automatic connection failed because of a system error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatické připojení se kvůli systémové chybě nezdařilo.</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nedávno změněné</translation>
     </message>
     <message>
         <source>Calderix Drive is ready.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>NAS storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>Úložiště zařízení NAS je plné</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The storage quota of this shared folder is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kvóta úložiště této sdílené složky je vyčerpána.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>Incompatible version</source>
-        <translation type="unfinished"></translation>
+        <translation>Nekompatibilní verze</translation>
     </message>
     <message>
         <source>Send to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Odeslat do: %1</translation>
     </message>
     <message>
         <source>You can change these settings at any time.</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>An error occurred during the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Během instalace došlo k chybě.</translation>
     </message>
     <message>
         <source>Pair with a NAS</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>&amp;Do not close applications. A restart will be required.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nezavírat aplikace. Bude nutné restartovat počítač.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dokončit</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Použít a zkopírovat odkaz</translation>
     </message>
     <message>
         <source>Pause Syncing</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Přidat složku</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a Calderix Drive folder on this computer.</source>
@@ -2017,23 +2017,23 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Odebrat</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation type="unfinished"></translation>
+        <translation>Jednosměrné stahování</translation>
     </message>
     <message>
         <source>Select the folder that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vyberte složku, kterou chcete synchronizovat.</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Předchozí měsíc</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Služba domovských složek je na zařízení NAS zakázána.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your connection.</source>
@@ -2045,23 +2045,23 @@
     </message>
     <message>
         <source>Sharing links need the Ostrel service, which is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Odkazy pro sdílení vyžadují službu Ostrel, která je na zařízení NAS zakázána.</translation>
     </message>
     <message>
         <source>Double-click action</source>
-        <translation type="unfinished"></translation>
+        <translation>Akce po poklikání</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Zapnout synchronizaci na vyžádání</translation>
     </message>
     <message>
         <source>Files whose names begin with a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Soubory, jejichž názvy začínají tečkou</translation>
     </message>
     <message>
         <source>The NAS package does not support this version of Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Balíček na zařízení NAS nepodporuje tuto verzi aplikace Calderix Drive.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2081,15 +2081,15 @@
     </message>
     <message>
         <source>Close the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Zavřít návod</translation>
     </message>
     <message>
         <source>The shared folder %1 is already synced with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sdílená složka %1 je již synchronizována s %2.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Calderix Drive manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatické nastavení se nezdařilo. Nastavte aplikaci Calderix Drive ručně.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Filter the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrovat protokol synchronizace</translation>
     </message>
     <message>
         <source>January</source>
@@ -2105,15 +2105,15 @@
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Bez oprávnění</translation>
     </message>
     <message>
         <source>Loading sync folders...</source>
-        <translation type="unfinished"></translation>
+        <translation>Načítání synchronizovaných složek...</translation>
     </message>
     <message>
         <source>Choose what to do when setup finishes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zvolte, co se má stát po dokončení nastavení.</translation>
     </message>
 </context>
 </TS>
