@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>E&amp;xit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kilépés</translation>
     </message>
     <message>
         <source>Calderix Drive keeps the files on this computer in sync with your NAS. Click Start Now to pair this computer with your NAS.</source>
@@ -21,75 +21,75 @@
     </message>
     <message>
         <source>Uploading</source>
-        <translation type="unfinished"></translation>
+        <translation>Feltöltés</translation>
     </message>
     <message>
         <source>First page</source>
-        <translation type="unfinished"></translation>
+        <translation>Első oldal</translation>
     </message>
     <message>
         <source>You can create no more than %1 sharing links.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legfeljebb %1 megosztási hivatkozás hozható létre.</translation>
     </message>
     <message>
         <source>Files larger than %1 MB will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB-nál nagyobb fájlok nem lesznek szinkronizálva.</translation>
     </message>
     <message>
         <source>On-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Igény szerinti szinkronizálás</translation>
     </message>
     <message>
         <source>The selected folder cannot be used as a sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kijelölt mappa nem használható szinkronizált mappaként. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Sync temporary files</source>
-        <translation type="unfinished"></translation>
+        <translation>Ideiglenes fájlok szinkronizálása</translation>
     </message>
     <message>
         <source>Farrowlink relay</source>
-        <translation type="unfinished"></translation>
+        <translation>Farrowlink-továbbítás</translation>
     </message>
     <message>
         <source>Keep both files and rename the conflicting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Mindkét fájl megtartása és az ütköző fájl átnevezése</translation>
     </message>
     <message>
         <source>Lets you change the way features are installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lehetővé teszi a szolgáltatások telepítési módjának módosítását.</translation>
     </message>
     <message>
         <source>&amp;Print</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nyomtatás</translation>
     </message>
     <message>
         <source>The Setup Wizard allows you to change the way Calderix Drive is installed on your computer, repair it, or remove it. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítővarázslóval módosíthatja a Calderix Drive telepítésének módját a számítógépen, kijavíthatja vagy eltávolíthatja azt. A folytatáshoz kattintson a Tovább gombra, a telepítővarázslóból való kilépéshez pedig a Mégse gombra.</translation>
     </message>
     <message>
         <source>%1 shared a folder with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 megosztott Önnel egy mappát.</translation>
     </message>
     <message>
         <source>Click the Finish button to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítővarázslóból való kilépéshez kattintson a Befejezés gombra.</translation>
     </message>
     <message>
         <source>Choose a different local folder or a different shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válasszon másik helyi mappát vagy másik megosztott mappát a NAS-en.</translation>
     </message>
     <message>
         <source>Setup has finished.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés befejeződött.</translation>
     </message>
     <message>
         <source>To</source>
-        <translation type="unfinished"></translation>
+        <translation>Eddig</translation>
     </message>
     <message>
         <source>Limit the number of accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzáférések számának korlátozása</translation>
     </message>
     <message>
         <source>October</source>
@@ -101,11 +101,11 @@
     </message>
     <message>
         <source>A sharing link cannot be created for this item.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ehhez az elemhez nem hozható létre megosztási hivatkozás.</translation>
     </message>
     <message>
         <source>Server address details</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiszolgálócím részletei</translation>
     </message>
     <message>
         <source>Deleted</source>
@@ -113,23 +113,23 @@
     </message>
     <message>
         <source>The sync direction of this folder does not match the setting on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa szinkronizálási iránya nem egyezik a NAS-en megadott beállítással.</translation>
     </message>
     <message>
         <source>You need administrator rights to install Calderix Drive. Do you want to continue anyway?</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítéséhez rendszergazdai jogosultság szükséges. Ennek ellenére folytatja?</translation>
     </message>
     <message>
         <source>This folder overlaps with an existing sync folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a mappa átfedésben van egy meglévő szinkronizált mappával. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Sync Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappák</translation>
     </message>
     <message>
         <source>Read-only</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak olvasható</translation>
     </message>
     <message>
         <source>Add</source>
@@ -141,11 +141,11 @@
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space or ask your administrator for a larger quota.</source>
-        <translation type="unfinished"></translation>
+        <translation>Betelt a tárhelykvótája a NAS-en. Szabadítson fel helyet, vagy kérjen nagyobb kvótát a rendszergazdától.</translation>
     </message>
     <message>
         <source>Automatic connection was cancelled by the administrator.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az automatikus kapcsolódást a rendszergazda megszakította.</translation>
     </message>
     <message>
         <source>Sunday</source>
@@ -161,19 +161,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése idő előtt befejeződött</translation>
     </message>
     <message>
         <source>Invalid parameter.</source>
-        <translation type="unfinished"></translation>
+        <translation>Érvénytelen paraméter.</translation>
     </message>
     <message>
         <source>The following applications are using files that Setup needs to update. You can close them and click Retry, or click Ignore to continue anyway.</source>
-        <translation type="unfinished"></translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket a telepítőnek frissítenie kell. Bezárhatja őket, és az Újra gombra kattinthat, vagy a Kihagyás gombra kattintva mégis folytathatja.</translation>
     </message>
     <message>
         <source>This folder is being indexed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa indexelése folyamatban van.</translation>
     </message>
     <message>
         <source>November</source>
@@ -185,23 +185,23 @@
     </message>
     <message>
         <source>Download History</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltési előzmények</translation>
     </message>
     <message>
         <source>Summary</source>
-        <translation type="unfinished"></translation>
+        <translation>Összegzés</translation>
     </message>
     <message>
         <source>Merge files from both sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok egyesítése mindkét oldalról</translation>
     </message>
     <message>
         <source>Show the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Útmutató megjelenítése</translation>
     </message>
     <message>
         <source>Change sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappa módosítása</translation>
     </message>
     <message>
         <source>Two-way sync</source>
@@ -209,7 +209,7 @@
     </message>
     <message>
         <source>Change Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa módosítása</translation>
     </message>
     <message>
         <source>About Calderix Drive</source>
@@ -221,7 +221,7 @@
     </message>
     <message>
         <source>Files excluded from sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálásból kizárt fájlok</translation>
     </message>
     <message>
         <source>Manage</source>
@@ -241,19 +241,19 @@
     </message>
     <message>
         <source>There is not enough free space on the disk of this folder. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs elég szabad hely a mappát tartalmazó lemezen. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Disk full</source>
-        <translation type="unfinished"></translation>
+        <translation>A lemez megtelt</translation>
     </message>
     <message>
         <source>Sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási mód</translation>
     </message>
     <message>
         <source>Keyword</source>
-        <translation type="unfinished"></translation>
+        <translation>Kulcsszó</translation>
     </message>
     <message>
         <source>Done</source>
@@ -261,15 +261,15 @@
     </message>
     <message>
         <source>Changes made by other computers on a network drive may not be detected right away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Előfordulhat, hogy a más számítógépek által egy hálózati meghajtón végzett módosítások nem észlelhetők azonnal.</translation>
     </message>
     <message>
         <source>Please enter a user name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg a felhasználónevet.</translation>
     </message>
     <message>
         <source>Checking your user name and password...</source>
-        <translation type="unfinished"></translation>
+        <translation>A felhasználónév és a jelszó ellenőrzése...</translation>
     </message>
     <message>
         <source>Resume</source>
@@ -277,19 +277,19 @@
     </message>
     <message>
         <source>Shared folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Megosztott mappa</translation>
     </message>
     <message>
         <source>Your storage quota on the NAS is full. Free up some space before syncing this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Betelt a tárhelykvótája a NAS-en. A mappa szinkronizálása előtt szabadítson fel helyet.</translation>
     </message>
     <message>
         <source>The server replied with an unexpected response.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kiszolgáló váratlan választ adott.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Helyi hálózat</translation>
     </message>
     <message>
         <source>Syncing...</source>
@@ -297,7 +297,7 @@
     </message>
     <message>
         <source>Please enter no more than %1 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legfeljebb %1 karaktert adjon meg.</translation>
     </message>
     <message>
         <source>Monday</source>
@@ -313,11 +313,11 @@
     </message>
     <message>
         <source>Change folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa módosítása</translation>
     </message>
     <message>
         <source>Folders you deselect will be removed from this computer but stay on the NAS. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>A kijelölésből eltávolított mappák törlődnek erről a számítógépről, de megmaradnak a NAS-en. Folytatja?</translation>
     </message>
     <message>
         <source>Open Calderix Drive</source>
@@ -333,15 +333,15 @@
     </message>
     <message>
         <source>Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Leírás</translation>
     </message>
     <message>
         <source>Maximum file size</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximális fájlméret</translation>
     </message>
     <message>
         <source>This version of Calderix Drive is too old for the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive ezen verziója túl régi a NAS-hez. Frissítse a Calderix Drive-ot.</translation>
     </message>
     <message>
         <source>The connection is unstable</source>
@@ -353,15 +353,15 @@
     </message>
     <message>
         <source>Stop the version download</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzió letöltésének leállítása</translation>
     </message>
     <message>
         <source>Destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Cél</translation>
     </message>
     <message>
         <source>%1 shared the folder %2 with you.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 megosztotta Önnel a(z) %2 mappát.</translation>
     </message>
     <message>
         <source>Renamed</source>
@@ -369,19 +369,19 @@
     </message>
     <message>
         <source>Folder Not Empty</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa nem üres</translation>
     </message>
     <message>
         <source>&amp;Close the applications and attempt to restart them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az alkalmazások &amp;bezárása és újraindításuk megkísérlése.</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Naptár</translation>
     </message>
     <message>
         <source>Keep conflicting files in a separate folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ütköző fájlok megtartása külön mappában</translation>
     </message>
     <message>
         <source>July</source>
@@ -389,27 +389,27 @@
     </message>
     <message>
         <source>%1 is a mount point and cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 csatlakozási pont, ezért nem használható szinkronizált mappaként.</translation>
     </message>
     <message>
         <source>Next %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Következő %1 oldal</translation>
     </message>
     <message>
         <source>There are no records to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs megjeleníthető bejegyzés.</translation>
     </message>
     <message>
         <source>Sync Tasks</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási feladatok</translation>
     </message>
     <message>
         <source>Testing the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolat tesztelése...</translation>
     </message>
     <message>
         <source>Are you sure you want to unlink this sync task? The files on this computer and on the NAS will be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztosan leválasztja ezt a szinkronizálási feladatot? A fájlok ezen a számítógépen és a NAS-en is megmaradnak.</translation>
     </message>
     <message>
         <source>Connecting...</source>
@@ -417,19 +417,19 @@
     </message>
     <message>
         <source>Calderix Drive Setup ended prematurely because of an error. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése hiba miatt idő előtt befejeződött. A rendszer nem módosult. Ha később szeretné telepíteni a programot, futtassa újra a telepítővarázslót.</translation>
     </message>
     <message>
         <source>A secure connection to the NAS could not be established.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült biztonságos kapcsolatot létesíteni a NAS-sel.</translation>
     </message>
     <message>
         <source>Sync direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálás iránya</translation>
     </message>
     <message>
         <source>Sync problem</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási probléma</translation>
     </message>
     <message>
         <source>Information</source>
@@ -457,7 +457,7 @@
     </message>
     <message>
         <source>Files on this computer that conflict with files on the NAS will be renamed and kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>A számítógépen lévő, a NAS-en lévő fájlokkal ütköző fájlok át lesznek nevezve és megmaradnak.</translation>
     </message>
     <message>
         <source>Get sharing link</source>
@@ -465,19 +465,19 @@
     </message>
     <message>
         <source>Version mismatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Verzióeltérés</translation>
     </message>
     <message>
         <source>Failed to download %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült letölteni: %1.</translation>
     </message>
     <message>
         <source>The disk of this computer is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>A számítógép lemeze megtelt.</translation>
     </message>
     <message>
         <source>Please update the NAS package to use selective sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szelektív szinkronizálás használatához frissítse a NAS-csomagot.</translation>
     </message>
     <message>
         <source>The user name or password is incorrect.</source>
@@ -485,87 +485,87 @@
     </message>
     <message>
         <source>This sync folder belongs to a different NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a szinkronizált mappa egy másik NAS-hez tartozik.</translation>
     </message>
     <message>
         <source>Show sync status icons on files and folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási állapotikonok megjelenítése a fájlokon és mappákon</translation>
     </message>
     <message>
         <source>Setup was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés megszakadt.</translation>
     </message>
     <message>
         <source>The folder %1 is not empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 mappa nem üres.</translation>
     </message>
     <message>
         <source>Finishing the setup...</source>
-        <translation type="unfinished"></translation>
+        <translation>A beállítás befejezése...</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Szűrő</translation>
     </message>
     <message>
         <source>On-demand sync could not be enabled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült engedélyezni az igény szerinti szinkronizálást.</translation>
     </message>
     <message>
         <source>The download was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>A letöltés leállt.</translation>
     </message>
     <message>
         <source>Action</source>
-        <translation type="unfinished"></translation>
+        <translation>Művelet</translation>
     </message>
     <message>
         <source>A new sync task will be created for %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Új szinkronizálási feladat jön létre a következőhöz: %1.</translation>
     </message>
     <message>
         <source>Resume syncing these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezen mappák szinkronizálásának folytatása</translation>
     </message>
     <message>
         <source>Ready to repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Készen áll a Calderix Drive javítására</translation>
     </message>
     <message>
         <source>Sync with a new NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálás új NAS-sel</translation>
     </message>
     <message>
         <source>The certificate of the NAS could not be verified.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült ellenőrizni a NAS tanúsítványát.</translation>
     </message>
     <message>
         <source>The connection ID is not valid.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolatazonosító érvénytelen.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is available. Upgrade now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Elérhető a Calderix Drive újabb verziója. Frissíti most?</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS tanúsítványa megváltozott.</translation>
     </message>
     <message>
         <source>Right-click a file in your sync folder to get a sharing link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Megosztási hivatkozás kéréséhez kattintson a jobb gombbal egy fájlra a szinkronizált mappában.</translation>
     </message>
     <message>
         <source>The folder is not empty. Do you want to merge its contents with the folder on the NAS?</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa nem üres. Egyesíti a tartalmát a NAS-en lévő mappával?</translation>
     </message>
     <message>
         <source>More details</source>
-        <translation type="unfinished"></translation>
+        <translation>További részletek</translation>
     </message>
     <message>
         <source>Try again</source>
-        <translation type="unfinished"></translation>
+        <translation>Újrapróbálkozás</translation>
     </message>
     <message>
         <source>Loading...</source>
@@ -573,19 +573,19 @@
     </message>
     <message>
         <source>Select the operation you wish to perform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válassza ki a végrehajtandó műveletet.</translation>
     </message>
     <message>
         <source>Your files, everywhere.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fájljai mindenhol.</translation>
     </message>
     <message>
         <source>End-User License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>Végfelhasználói licencszerződés</translation>
     </message>
     <message>
         <source>File name</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlnév</translation>
     </message>
     <message>
         <source>Unlink</source>
@@ -593,7 +593,7 @@
     </message>
     <message>
         <source>Internet</source>
-        <translation type="unfinished"></translation>
+        <translation>Internet</translation>
     </message>
     <message>
         <source>Port</source>
@@ -601,11 +601,11 @@
     </message>
     <message>
         <source>Some files that need to be updated are currently in use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Néhány frissítendő fájl jelenleg használatban van.</translation>
     </message>
     <message>
         <source>The set-up key has already been configured.</source>
-        <translation type="unfinished"></translation>
+        <translation>A beállítókulcs már konfigurálva van.</translation>
     </message>
     <message>
         <source>System default</source>
@@ -613,15 +613,15 @@
     </message>
     <message>
         <source>Repair the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés javítása</translation>
     </message>
     <message>
         <source>Available from</source>
-        <translation type="unfinished"></translation>
+        <translation>Elérhetőség kezdete</translation>
     </message>
     <message>
         <source>Overwrite the file on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>A fájl felülírása ezen a számítógépen</translation>
     </message>
     <message>
         <source>Help</source>
@@ -629,15 +629,15 @@
     </message>
     <message>
         <source>Please enter the address and port of the proxy server.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg a proxykiszolgáló címét és portját.</translation>
     </message>
     <message>
         <source>The selected folder is read-only. Please choose another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>A kijelölt mappa csak olvasható. Válasszon másik mappát.</translation>
     </message>
     <message>
         <source>Relay connections are disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A továbbított kapcsolatok le vannak tiltva a NAS-en.</translation>
     </message>
     <message>
         <source>Upgrading...</source>
@@ -645,19 +645,19 @@
     </message>
     <message>
         <source>&amp;Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Javítás</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed since this folder was last synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS tanúsítványa megváltozott a mappa legutóbbi szinkronizálása óta.</translation>
     </message>
     <message>
         <source>Create a Calderix Drive folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Calderix Drive mappa létrehozása</translation>
     </message>
     <message>
         <source>Show icons on files that are not synced</source>
-        <translation type="unfinished"></translation>
+        <translation>Ikonok megjelenítése a nem szinkronizált fájlokon</translation>
     </message>
     <message>
         <source>Advanced Settings</source>
@@ -665,51 +665,51 @@
     </message>
     <message>
         <source>Restrict access</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzáférés korlátozása</translation>
     </message>
     <message>
         <source>&lt; &amp;Back</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt; &amp;Vissza</translation>
     </message>
     <message>
         <source>Date range</source>
-        <translation type="unfinished"></translation>
+        <translation>Dátumtartomány</translation>
     </message>
     <message>
         <source>The local sync folder %1 cannot be found.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 helyi szinkronizált mappa nem található.</translation>
     </message>
     <message>
         <source>Browse previous versions</source>
-        <translation type="unfinished"></translation>
+        <translation>Korábbi verziók böngészése</translation>
     </message>
     <message>
         <source>Detecting the connection...</source>
-        <translation type="unfinished"></translation>
+        <translation>A kapcsolat észlelése...</translation>
     </message>
     <message>
         <source>Advanced Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Speciális beállítási varázsló</translation>
     </message>
     <message>
         <source>Files you put in your sync folder are kept up to date on the NAS and on all your computers.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szinkronizált mappába helyezett fájlok naprakészek maradnak a NAS-en és az összes számítógépén.</translation>
     </message>
     <message>
         <source>The sharing link could not be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült törölni a megosztási hivatkozást.</translation>
     </message>
     <message>
         <source>Re&amp;move</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eltávolítás</translation>
     </message>
     <message>
         <source>Server address</source>
-        <translation type="unfinished"></translation>
+        <translation>Kiszolgálócím</translation>
     </message>
     <message>
         <source>Installing Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése</translation>
     </message>
     <message>
         <source>User name</source>
@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciók</translation>
     </message>
     <message>
         <source>Tuesday</source>
@@ -729,23 +729,23 @@
     </message>
     <message>
         <source>Connected to a different NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Másik NAS-hez csatlakozik</translation>
     </message>
     <message>
         <source>Share Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok megosztása</translation>
     </message>
     <message>
         <source>&amp;Change</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Módosítás</translation>
     </message>
     <message>
         <source>The local folder could not be created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült létrehozni a helyi mappát.</translation>
     </message>
     <message>
         <source>Secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztonságos kapcsolat (SSL)</translation>
     </message>
     <message>
         <source>Disabled</source>
@@ -753,7 +753,7 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted. Your system has not been modified. To install this program at a later time, run the Setup Wizard again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése megszakadt. A rendszer nem módosult. Ha később szeretné telepíteni a programot, futtassa újra a telepítővarázslót.</translation>
     </message>
     <message>
         <source>Edit Connection</source>
@@ -761,27 +761,27 @@
     </message>
     <message>
         <source>&amp;Next &gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tovább &gt;</translation>
     </message>
     <message>
         <source>This item cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez az elem nem tölthető le.</translation>
     </message>
     <message>
         <source>The local database could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült megnyitni a helyi adatbázist.</translation>
     </message>
     <message>
         <source>Apply to all subfolders</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmazás minden almappára</translation>
     </message>
     <message>
         <source>Do not sync these folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezen mappák kihagyása a szinkronizálásból</translation>
     </message>
     <message>
         <source>%1 has been downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>A letöltés befejeződött: %1.</translation>
     </message>
     <message>
         <source>Recently updated files</source>
@@ -789,11 +789,11 @@
     </message>
     <message>
         <source>Duplicate Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Ismétlődő szinkronizálási feladat</translation>
     </message>
     <message>
         <source>The NAS requires two-step verification for your account.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS kétlépéses azonosítást ír elő a fiókjához.</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -801,7 +801,7 @@
     </message>
     <message>
         <source>Do you want to delete this sharing link?</source>
-        <translation type="unfinished"></translation>
+        <translation>Törli ezt a megosztási hivatkozást?</translation>
     </message>
     <message>
         <source>Calderix Drive is already running.</source>
@@ -809,23 +809,23 @@
     </message>
     <message>
         <source>Security Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztonsági figyelmeztetés</translation>
     </message>
     <message>
         <source>Open sync status</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási állapot megnyitása</translation>
     </message>
     <message>
         <source>This system folder cannot be used as a sync folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a rendszermappa nem használható szinkronizált mappaként.</translation>
     </message>
     <message>
         <source>Do not sync this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa kihagyása a szinkronizálásból</translation>
     </message>
     <message>
         <source>Click the Calderix Drive icon in the menu bar to see the sync status and change settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szinkronizálási állapot megtekintéséhez és a beállítások módosításához kattintson a menüsoron a Calderix Drive ikonjára.</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -845,15 +845,15 @@
     </message>
     <message>
         <source>The certificate of the NAS could not be verified. Do you want to continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült ellenőrizni a NAS tanúsítványát. Folytatja?</translation>
     </message>
     <message>
         <source>This file does not belong to any connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a fájl egyetlen kapcsolathoz sem tartozik.</translation>
     </message>
     <message>
         <source>Access Anywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Elérés bárhonnan</translation>
     </message>
     <message>
         <source>December</source>
@@ -861,11 +861,11 @@
     </message>
     <message>
         <source>The proxy server requires a password</source>
-        <translation type="unfinished"></translation>
+        <translation>A proxykiszolgáló jelszót kér</translation>
     </message>
     <message>
         <source>Sync folder on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappa a NAS-en</translation>
     </message>
     <message>
         <source>Choose the shared folder, the local folder and the sync options yourself.</source>
@@ -873,35 +873,35 @@
     </message>
     <message>
         <source>Files with these names will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az ilyen nevű fájlok nem lesznek szinkronizálva.</translation>
     </message>
     <message>
         <source>Welcome to the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>Üdvözli a Calderix Drive telepítővarázslója</translation>
     </message>
     <message>
         <source>Some fields contain invalid values.</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyes mezők érvénytelen értéket tartalmaznak.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Beállítások alkalmazása...</translation>
     </message>
     <message>
         <source>Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok</translation>
     </message>
     <message>
         <source>Are you sure you want to cancel the Calderix Drive installation?</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztosan megszakítja a Calderix Drive telepítését?</translation>
     </message>
     <message>
         <source>The Setup Wizard will install Calderix Drive on your computer. Click Next to continue or Cancel to exit the Setup Wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítővarázsló telepíti a Calderix Drive-ot a számítógépre. A folytatáshoz kattintson a Tovább gombra, a telepítővarázslóból való kilépéshez pedig a Mégse gombra.</translation>
     </message>
     <message>
         <source>Mount point not supported</source>
-        <translation type="unfinished"></translation>
+        <translation>A csatlakozási pont nem támogatott</translation>
     </message>
     <message>
         <source>Show in folder</source>
@@ -909,23 +909,23 @@
     </message>
     <message>
         <source>Folder name</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappanév</translation>
     </message>
     <message>
         <source>NAS overview</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-áttekintés</translation>
     </message>
     <message>
         <source>I &amp;accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elfogadom a licencszerződés feltételeit</translation>
     </message>
     <message>
         <source>Calderix Drive status</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive állapota</translation>
     </message>
     <message>
         <source>Sync Your Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok szinkronizálása</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -937,11 +937,11 @@
     </message>
     <message>
         <source>This version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive ezen verziója már telepítve van.</translation>
     </message>
     <message>
         <source>Remove Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive eltávolítása</translation>
     </message>
     <message>
         <source>September</source>
@@ -957,15 +957,15 @@
     </message>
     <message>
         <source>Anyone with the link can open the file in a web browser.</source>
-        <translation type="unfinished"></translation>
+        <translation>A hivatkozás birtokában bárki megnyithatja a fájlt egy webböngészőben.</translation>
     </message>
     <message>
         <source>Your account has been disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fiókja le van tiltva a NAS-en.</translation>
     </message>
     <message>
         <source>&amp;Ignore</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kihagyás</translation>
     </message>
     <message>
         <source>May</source>
@@ -973,7 +973,7 @@
     </message>
     <message>
         <source>Remove the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés eltávolítása</translation>
     </message>
     <message>
         <source>Apply</source>
@@ -981,19 +981,19 @@
     </message>
     <message>
         <source>Calderix Drive could not be upgraded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült frissíteni a Calderix Drive-ot.</translation>
     </message>
     <message>
         <source>Your user information could not be retrieved from the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült lekérni a felhasználói adatokat a NAS-ről.</translation>
     </message>
     <message>
         <source>Connection type</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolat típusa</translation>
     </message>
     <message>
         <source>Ready to install Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Készen áll a Calderix Drive telepítésére</translation>
     </message>
     <message>
         <source>Continue Anyway</source>
@@ -1001,11 +1001,11 @@
     </message>
     <message>
         <source>Folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappák</translation>
     </message>
     <message>
         <source>Created</source>
-        <translation type="unfinished"></translation>
+        <translation>Létrehozva</translation>
     </message>
     <message>
         <source>Time</source>
@@ -1013,11 +1013,11 @@
     </message>
     <message>
         <source>Select a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa kiválasztása</translation>
     </message>
     <message>
         <source>Folder selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappák szelektív szinkronizálása</translation>
     </message>
     <message>
         <source>February</source>
@@ -1025,23 +1025,23 @@
     </message>
     <message>
         <source>Calderix Drive Setup was interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése megszakadt</translation>
     </message>
     <message>
         <source>Your password has expired. Please change it on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A jelszava lejárt. Módosítsa a NAS-en.</translation>
     </message>
     <message>
         <source>Enter the verification code</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg az ellenőrző kódot</translation>
     </message>
     <message>
         <source>The user name or password for the proxy server is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>A proxykiszolgálóhoz megadott felhasználónév vagy jelszó helytelen.</translation>
     </message>
     <message>
         <source>Expires on</source>
-        <translation type="unfinished"></translation>
+        <translation>Lejárat</translation>
     </message>
     <message>
         <source>Your files are now kept in sync with the NAS.</source>
@@ -1049,23 +1049,23 @@
     </message>
     <message>
         <source>Sharing links are not available over a Farrowlink connection.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megosztási hivatkozások nem érhetők el Farrowlink-kapcsolaton keresztül.</translation>
     </message>
     <message>
         <source>Show Calderix Drive in the context menu</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive megjelenítése a helyi menüben</translation>
     </message>
     <message>
         <source>The Ostrel service is disabled on the NAS. Please ask your administrator to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az Ostrel szolgáltatás le van tiltva a NAS-en. Kérje meg a rendszergazdát, hogy engedélyezze.</translation>
     </message>
     <message>
         <source>Some files could not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Néhány fájlt nem sikerült szinkronizálni.</translation>
     </message>
     <message>
         <source>Folder path</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa elérési útja</translation>
     </message>
     <message>
         <source>Calderix Drive is starting...</source>
@@ -1081,19 +1081,19 @@
     </message>
     <message>
         <source>Use a black-and-white menu bar icon</source>
-        <translation type="unfinished"></translation>
+        <translation>Fekete-fehér menüsor-ikon használata</translation>
     </message>
     <message>
         <source>Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Előrehaladás</translation>
     </message>
     <message>
         <source>Inactive</source>
-        <translation type="unfinished"></translation>
+        <translation>Inaktív</translation>
     </message>
     <message>
         <source>This shared folder is already synced to another folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a megosztott mappa már egy másik mappával van szinkronizálva.</translation>
     </message>
     <message>
         <source>General</source>
@@ -1101,11 +1101,11 @@
     </message>
     <message>
         <source>Open your synced files from any computer paired with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szinkronizált fájlokat a NAS-sel párosított bármely számítógépről megnyithatja.</translation>
     </message>
     <message>
         <source>The link to the file could not be retrieved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült lekérni a fájl hivatkozását.</translation>
     </message>
     <message>
         <source>No proxy</source>
@@ -1121,11 +1121,11 @@
     </message>
     <message>
         <source>This field cannot be empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a mező nem lehet üres.</translation>
     </message>
     <message>
         <source>&amp;Retry</source>
-        <translation type="unfinished"></translation>
+        <translation>Ú&amp;jra</translation>
     </message>
     <message>
         <source>Last week</source>
@@ -1133,7 +1133,7 @@
     </message>
     <message>
         <source>Checking for changes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Változások keresése...</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1145,31 +1145,31 @@
     </message>
     <message>
         <source>Remote destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Távoli cél</translation>
     </message>
     <message>
         <source>Read-only Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak olvasható mappa</translation>
     </message>
     <message>
         <source>Change, repair, or remove installation</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés módosítása, javítása vagy eltávolítása</translation>
     </message>
     <message>
         <source>New Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Új szinkronizált mappa</translation>
     </message>
     <message>
         <source>This computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a számítógép</translation>
     </message>
     <message>
         <source>Loading the folder list...</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappalista betöltése...</translation>
     </message>
     <message>
         <source>The following applications are using files that need to be updated by this setup. Close these applications and click Retry to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>A következő alkalmazások olyan fájlokat használnak, amelyeket ennek a telepítésnek frissítenie kell. Zárja be ezeket az alkalmazásokat, majd a folytatáshoz kattintson az Újra gombra.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1181,39 +1181,39 @@
     </message>
     <message>
         <source>Connect through Farrowlink</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolódás a Farrowlink szolgáltatáson keresztül</translation>
     </message>
     <message>
         <source>A file with the same name already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Már létezik ilyen nevű fájl.</translation>
     </message>
     <message>
         <source>Create a new folder to sync with the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzon létre egy új mappát a NAS-sel való szinkronizáláshoz.</translation>
     </message>
     <message>
         <source>The certificate of the NAS has changed. Do you trust the new certificate?</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS tanúsítványa megváltozott. Megbízik az új tanúsítványban?</translation>
     </message>
     <message>
         <source>The versions of this file cannot be listed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült listázni a fájl verzióit.</translation>
     </message>
     <message>
         <source>Add file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlnév hozzáadása</translation>
     </message>
     <message>
         <source>ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Azonosító</translation>
     </message>
     <message>
         <source>Downloading %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 letöltése...</translation>
     </message>
     <message>
         <source>Too many failed attempts. Please try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Túl sok sikertelen próbálkozás. Próbálkozzon újra később.</translation>
     </message>
     <message>
         <source>April</source>
@@ -1221,7 +1221,7 @@
     </message>
     <message>
         <source>Sharing enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Megosztás engedélyezve</translation>
     </message>
     <message>
         <source>Up to date</source>
@@ -1229,7 +1229,7 @@
     </message>
     <message>
         <source>Computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Számítógép</translation>
     </message>
     <message>
         <source>Paused</source>
@@ -1237,7 +1237,7 @@
     </message>
     <message>
         <source>Ostrel disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Az Ostrel le van tiltva</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -1253,15 +1253,15 @@
     </message>
     <message>
         <source>The volume of the sync folder %1 is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 szinkronizált mappa kötete nincs csatlakoztatva.</translation>
     </message>
     <message>
         <source>This folder is already synced with the same shared folder on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a mappa már szinkronizálva van ugyanazzal a megosztott mappával a NAS-en.</translation>
     </message>
     <message>
         <source>Shared folder missing</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiányzó megosztott mappa</translation>
     </message>
     <message>
         <source>Click to update Calderix Drive</source>
@@ -1269,7 +1269,7 @@
     </message>
     <message>
         <source>Use a secure connection (SSL)</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztonságos kapcsolat (SSL) használata</translation>
     </message>
     <message>
         <source>Open file</source>
@@ -1277,7 +1277,7 @@
     </message>
     <message>
         <source>Setup is ready to begin the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítő készen áll a telepítés megkezdésére.</translation>
     </message>
     <message>
         <source>Merge</source>
@@ -1285,19 +1285,19 @@
     </message>
     <message>
         <source>When the same file has changed on both sides:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha ugyanaz a fájl mindkét oldalon módosult:</translation>
     </message>
     <message>
         <source>Click Repair to repair the installation of Calderix Drive. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítésének javításához kattintson a Javítás gombra. A telepítési beállítások áttekintéséhez vagy módosításához kattintson a Vissza gombra. A varázslóból való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
         <source>Add Sync Task</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási feladat hozzáadása</translation>
     </message>
     <message>
         <source>Preparing</source>
-        <translation type="unfinished"></translation>
+        <translation>Előkészítés</translation>
     </message>
     <message>
         <source>Updating...</source>
@@ -1305,19 +1305,19 @@
     </message>
     <message>
         <source>This version of Calderix Drive is not supported by the NAS. Please upgrade Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS nem támogatja a Calderix Drive ezen verzióját. Frissítse a Calderix Drive-ot.</translation>
     </message>
     <message>
         <source>Enable sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálás engedélyezése</translation>
     </message>
     <message>
         <source>You do not have permission to access this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs engedélye a mappához való hozzáféréshez.</translation>
     </message>
     <message>
         <source>The folder %1 is read-only.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 mappa csak olvasható.</translation>
     </message>
     <message>
         <source>Upgrade Calderix Drive</source>
@@ -1325,11 +1325,11 @@
     </message>
     <message>
         <source>The verification code is incorrect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az ellenőrző kód helytelen.</translation>
     </message>
     <message>
         <source>Your files stay available even when this computer is offline.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fájljai akkor is elérhetők maradnak, ha ez a számítógép offline állapotban van.</translation>
     </message>
     <message>
         <source>Checking data...</source>
@@ -1337,15 +1337,15 @@
     </message>
     <message>
         <source>Log category</source>
-        <translation type="unfinished"></translation>
+        <translation>Naplókategória</translation>
     </message>
     <message>
         <source>Launch Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive indítása</translation>
     </message>
     <message>
         <source>&amp;Yes</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Igen</translation>
     </message>
     <message>
         <source>Upgrade failed.</source>
@@ -1357,7 +1357,7 @@
     </message>
     <message>
         <source>Selective sync mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Szelektív szinkronizálási mód</translation>
     </message>
     <message>
         <source>Proxy Settings</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Sign-in failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Sikertelen bejelentkezés</translation>
     </message>
     <message>
         <source>Files in Use</source>
-        <translation type="unfinished"></translation>
+        <translation>Használatban lévő fájlok</translation>
     </message>
     <message>
         <source>All events</source>
@@ -1389,7 +1389,7 @@
     </message>
     <message>
         <source>Renamed on this computer</source>
-        <translation type="unfinished"></translation>
+        <translation>Átnevezve ezen a számítógépen</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1397,35 +1397,35 @@
     </message>
     <message>
         <source>There is no folder that can be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs szinkronizálható mappa.</translation>
     </message>
     <message>
         <source>Sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappa</translation>
     </message>
     <message>
         <source>One-way sync (download only)</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyirányú szinkronizálás (csak letöltés)</translation>
     </message>
     <message>
         <source>Select the shared folder on the NAS that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válassza ki a NAS-en azt a megosztott mappát, amelyet szinkronizálni szeretne.</translation>
     </message>
     <message>
         <source>Search for NAS devices on the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>NAS-eszközök keresése a helyi hálózaton</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive számítógépről való eltávolításához kattintson az Eltávolítás gombra. A telepítési beállítások áttekintéséhez vagy módosításához kattintson a Vissza gombra. A varázslóból való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
         <source>Manual proxy configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Kézi proxykonfiguráció</translation>
     </message>
     <message>
         <source>The shared folder no longer exists on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megosztott mappa már nem létezik a NAS-en.</translation>
     </message>
     <message>
         <source>Do not show this message again</source>
@@ -1433,39 +1433,39 @@
     </message>
     <message>
         <source>Stay Informed</source>
-        <translation type="unfinished"></translation>
+        <translation>Maradjon naprakész</translation>
     </message>
     <message>
         <source>Direct connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Közvetlen kapcsolat</translation>
     </message>
     <message>
         <source>Previous %1 pages</source>
-        <translation type="unfinished"></translation>
+        <translation>Előző %1 oldal</translation>
     </message>
     <message>
         <source>More tips</source>
-        <translation type="unfinished"></translation>
+        <translation>További tippek</translation>
     </message>
     <message>
         <source>Connecting to %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapcsolódás a következőhöz: %1...</translation>
     </message>
     <message>
         <source>Please enter a port number between 1 and 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adjon meg egy 1 és 65535 közötti portszámot.</translation>
     </message>
     <message>
         <source>File selective sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlok szelektív szinkronizálása</translation>
     </message>
     <message>
         <source>Quota full</source>
-        <translation type="unfinished"></translation>
+        <translation>A kvóta betelt</translation>
     </message>
     <message>
         <source>Custom range</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyéni tartomány</translation>
     </message>
     <message>
         <source>Open Calderix Drive Folder</source>
@@ -1473,15 +1473,15 @@
     </message>
     <message>
         <source>The shared folder is not mounted on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megosztott mappa nincs csatlakoztatva a NAS-en.</translation>
     </message>
     <message>
         <source>Click Install to begin the installation. Click Back to review or change any of your installation settings. Click Cancel to exit the wizard.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés megkezdéséhez kattintson a Telepítés gombra. A telepítési beállítások áttekintéséhez vagy módosításához kattintson a Vissza gombra. A varázslóból való kilépéshez kattintson a Mégse gombra.</translation>
     </message>
     <message>
         <source>The remote folder is not available because its volume is not mounted.</source>
-        <translation type="unfinished"></translation>
+        <translation>A távoli mappa nem érhető el, mert a kötete nincs csatlakoztatva.</translation>
     </message>
     <message>
         <source>Show desktop notifications</source>
@@ -1489,11 +1489,11 @@
     </message>
     <message>
         <source>Setup is ready to install Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítő készen áll a Calderix Drive telepítésére.</translation>
     </message>
     <message>
         <source>Locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Zárolva</translation>
     </message>
     <message>
         <source>Quick Setup</source>
@@ -1501,15 +1501,15 @@
     </message>
     <message>
         <source>Turning off sync for this folder removes it from the sync list. The files stay on the NAS and on this computer. Continue?</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa szinkronizálásának kikapcsolása eltávolítja azt a szinkronizálási listáról. A fájlok megmaradnak a NAS-en és ezen a számítógépen. Folytatja?</translation>
     </message>
     <message>
         <source>Resume syncing this folder</source>
-        <translation type="unfinished"></translation>
+        <translation>A mappa szinkronizálásának folytatása</translation>
     </message>
     <message>
         <source>Last page</source>
-        <translation type="unfinished"></translation>
+        <translation>Utolsó oldal</translation>
     </message>
     <message>
         <source>Delete Link</source>
@@ -1517,23 +1517,23 @@
     </message>
     <message>
         <source>Cancel Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés megszakítása</translation>
     </message>
     <message>
         <source>A sync task for this folder already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ehhez a mappához már létezik szinkronizálási feladat.</translation>
     </message>
     <message>
         <source>This folder was synced by a different user account.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ezt a mappát egy másik felhasználói fiók szinkronizálta.</translation>
     </message>
     <message>
         <source>No settings have been changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyetlen beállítás sem módosult.</translation>
     </message>
     <message>
         <source>&amp;No</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nem</translation>
     </message>
     <message>
         <source>Sign-in failed. Please check your user name and password.</source>
@@ -1541,7 +1541,7 @@
     </message>
     <message>
         <source>Files that match these filters will not be synced.</source>
-        <translation type="unfinished"></translation>
+        <translation>A szűrőknek megfelelő fájlok nem lesznek szinkronizálva.</translation>
     </message>
     <message>
         <source>There is not enough free space on the NAS.</source>
@@ -1549,11 +1549,11 @@
     </message>
     <message>
         <source>Download only</source>
-        <translation type="unfinished"></translation>
+        <translation>Csak letöltés</translation>
     </message>
     <message>
         <source>Unlinking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leválasztás...</translation>
     </message>
     <message>
         <source>Resume Syncing</source>
@@ -1561,63 +1561,63 @@
     </message>
     <message>
         <source>Completed the Calderix Drive Setup Wizard</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítővarázslója befejeződött</translation>
     </message>
     <message>
         <source>Set Sync Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappa beállítása</translation>
     </message>
     <message>
         <source>&amp;Install</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Telepítés</translation>
     </message>
     <message>
         <source>Tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Útmutató</translation>
     </message>
     <message>
         <source>Expires after %1 accesses</source>
-        <translation type="unfinished"></translation>
+        <translation>Lejár %1 hozzáférés után</translation>
     </message>
     <message>
         <source>The contents of both folders will be merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>A két mappa tartalma egyesítve lesz.</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Várjon, amíg a telepítővarázsló telepíti a Calderix Drive-ot.</translation>
     </message>
     <message>
         <source>Next month</source>
-        <translation type="unfinished"></translation>
+        <translation>Következő hónap</translation>
     </message>
     <message>
         <source>Downloading</source>
-        <translation type="unfinished"></translation>
+        <translation>Letöltés</translation>
     </message>
     <message>
         <source>You do not have permission to perform this operation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs engedélye a művelet végrehajtásához.</translation>
     </message>
     <message>
         <source>Repairs errors in the most recent installation by fixing missing and corrupt files, shortcuts, and registry entries.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kijavítja a legutóbbi telepítés hibáit a hiányzó és sérült fájlok, parancsikonok és beállításjegyzék-bejegyzések helyreállításával.</translation>
     </message>
     <message>
         <source>Sync could not be enabled for this folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem sikerült engedélyezni a szinkronizálást ehhez a mappához.</translation>
     </message>
     <message>
         <source>No previous version of this file is available.</source>
-        <translation type="unfinished"></translation>
+        <translation>A fájlnak nincs elérhető korábbi verziója.</translation>
     </message>
     <message>
         <source>Refresh the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>A szinkronizálási napló frissítése</translation>
     </message>
     <message>
         <source>Click Remove to remove Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive számítógépről való eltávolításához kattintson az Eltávolítás gombra.</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -1625,11 +1625,11 @@
     </message>
     <message>
         <source>Removes Calderix Drive from your computer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eltávolítja a Calderix Drive-ot a számítógépről.</translation>
     </message>
     <message>
         <source>Repair Calderix Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive javítása</translation>
     </message>
     <message>
         <source>Setup Mode</source>
@@ -1637,11 +1637,11 @@
     </message>
     <message>
         <source>File extension</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájlkiterjesztés</translation>
     </message>
     <message>
         <source>%1 items</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 elem</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1649,31 +1649,31 @@
     </message>
     <message>
         <source>No options available</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincsenek elérhető lehetőségek</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Hálózat</translation>
     </message>
     <message>
         <source>Sync and share your files with your NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálja és ossza meg fájljait a NAS-sel.</translation>
     </message>
     <message>
         <source>Permission denied</source>
-        <translation type="unfinished"></translation>
+        <translation>Hozzáférés megtagadva</translation>
     </message>
     <message>
         <source>From</source>
-        <translation type="unfinished"></translation>
+        <translation>Ettől</translation>
     </message>
     <message>
         <source>Renamed on the NAS</source>
-        <translation type="unfinished"></translation>
+        <translation>Átnevezve a NAS-en</translation>
     </message>
     <message>
         <source>Please wait while the Setup Wizard installs Calderix Drive. This may take several minutes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Várjon, amíg a telepítővarázsló telepíti a Calderix Drive-ot. Ez több percig is eltarthat.</translation>
     </message>
     <message>
         <source>Start Calderix Drive when I log in</source>
@@ -1681,23 +1681,23 @@
     </message>
     <message>
         <source>This wizard will guide you through the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a varázsló végigvezeti a telepítésen.</translation>
     </message>
     <message>
         <source>File type</source>
-        <translation type="unfinished"></translation>
+        <translation>Fájltípus</translation>
     </message>
     <message>
         <source>Keep the most recently modified file</source>
-        <translation type="unfinished"></translation>
+        <translation>A legutóbb módosított fájl megtartása</translation>
     </message>
     <message>
         <source>This computer is already paired with this NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a számítógép már párosítva van ezzel a NAS-sel.</translation>
     </message>
     <message>
         <source>Please read the following license agreement carefully.</source>
-        <translation type="unfinished"></translation>
+        <translation>Figyelmesen olvassa el az alábbi licencszerződést.</translation>
     </message>
     <message>
         <source>Calderix Drive could not be started.</source>
@@ -1709,7 +1709,7 @@
     </message>
     <message>
         <source>The NAS package is too old for this version of Calderix Drive. Please update the package on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS-csomag túl régi a Calderix Drive ezen verziójához. Frissítse a csomagot a NAS-en.</translation>
     </message>
     <message>
         <source>Yesterday</source>
@@ -1717,11 +1717,11 @@
     </message>
     <message>
         <source>New Share</source>
-        <translation type="unfinished"></translation>
+        <translation>Új megosztás</translation>
     </message>
     <message>
         <source>Please enter the verification code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adja meg az ellenőrző kódot.</translation>
     </message>
     <message>
         <source>Proxy</source>
@@ -1729,11 +1729,11 @@
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>és még %1</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Alaphelyzet</translation>
     </message>
     <message>
         <source>The new language will be used after Calderix Drive restarts.</source>
@@ -1741,7 +1741,7 @@
     </message>
     <message>
         <source>Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Érték</translation>
     </message>
     <message>
         <source>Calderix Drive is initializing...</source>
@@ -1753,7 +1753,7 @@
     </message>
     <message>
         <source>Are you sure you want to unlink from %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>Biztosan megszünteti a kapcsolatot a következővel: %1?</translation>
     </message>
     <message>
         <source>June</source>
@@ -1761,7 +1761,7 @@
     </message>
     <message>
         <source>Calderix Drive has been installed successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive telepítése sikeresen befejeződött.</translation>
     </message>
     <message>
         <source>An unknown error occurred.</source>
@@ -1769,15 +1769,15 @@
     </message>
     <message>
         <source>I &amp;do not accept the terms in the License Agreement</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nem fogadom el a licencszerződés feltételeit</translation>
     </message>
     <message>
         <source>Standby</source>
-        <translation type="unfinished"></translation>
+        <translation>Készenlét</translation>
     </message>
     <message>
         <source>Search the local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Keresés a helyi hálózaton</translation>
     </message>
     <message>
         <source>There is not enough free space on this computer.</source>
@@ -1789,7 +1789,7 @@
     </message>
     <message>
         <source>Synchronization mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálás módja</translation>
     </message>
     <message>
         <source>History</source>
@@ -1797,19 +1797,19 @@
     </message>
     <message>
         <source>Local sync folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Helyi szinkronizált mappa</translation>
     </message>
     <message>
         <source>You have chosen to remove the program from your system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ön a program eltávolítását választotta a rendszerről.</translation>
     </message>
     <message>
         <source>Calderix Drive has no independent features to change.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive nem rendelkezik módosítható önálló szolgáltatásokkal.</translation>
     </message>
     <message>
         <source>Not needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem szükséges</translation>
     </message>
     <message>
         <source>Calderix Drive will now sync your files with the NAS.</source>
@@ -1817,27 +1817,27 @@
     </message>
     <message>
         <source>Your changes have not been saved. Do you want to save them?</source>
-        <translation type="unfinished"></translation>
+        <translation>A módosítások nincsenek mentve. Menti őket?</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Nyelv módosítása</translation>
     </message>
     <message>
         <source>Local destination</source>
-        <translation type="unfinished"></translation>
+        <translation>Helyi cél</translation>
     </message>
     <message>
         <source>Connections from this IP address are blocked by the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS letiltja az erről az IP-címről érkező kapcsolatokat.</translation>
     </message>
     <message>
         <source>A newer version of Calderix Drive is already installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive egy újabb verziója már telepítve van.</translation>
     </message>
     <message>
         <source>Status:</source>
-        <translation type="unfinished"></translation>
+        <translation>Állapot:</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1849,7 +1849,7 @@
     </message>
     <message>
         <source>Download a previous version</source>
-        <translation type="unfinished"></translation>
+        <translation>Korábbi verzió letöltése</translation>
     </message>
     <message>
         <source>Upgrade</source>
@@ -1857,11 +1857,11 @@
     </message>
     <message>
         <source>A network error occurred while checking the sync folder. Please try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hálózati hiba történt a szinkronizált mappa ellenőrzésekor. Próbálkozzon újra.</translation>
     </message>
     <message>
         <source>Certificate error</source>
-        <translation type="unfinished"></translation>
+        <translation>Tanúsítványhiba</translation>
     </message>
     <message>
         <source>Calderix Drive</source>
@@ -1873,7 +1873,7 @@
     </message>
     <message>
         <source>Click Repair to repair Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive javításához kattintson a Javítás gombra.</translation>
     </message>
     <message>
         <source>File</source>
@@ -1881,15 +1881,15 @@
     </message>
     <message>
         <source>Change, repair, or remove Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A Calderix Drive módosítása, javítása vagy eltávolítása.</translation>
     </message>
     <message>
         <source>Updated files</source>
-        <translation type="unfinished"></translation>
+        <translation>Frissített fájlok</translation>
     </message>
     <message>
         <source>Sync task</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizálási feladat</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -1897,15 +1897,15 @@
     </message>
     <message>
         <source>Delete the downloaded version</source>
-        <translation type="unfinished"></translation>
+        <translation>A letöltött verzió törlése</translation>
     </message>
     <message>
         <source>Excluded files</source>
-        <translation type="unfinished"></translation>
+        <translation>Kizárt fájlok</translation>
     </message>
     <message>
         <source>Custom duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyéni időtartam</translation>
     </message>
     <message>
         <source>Enter the address of your NAS and your user account.</source>
@@ -1913,11 +1913,11 @@
     </message>
     <message>
         <source>Change the installation</source>
-        <translation type="unfinished"></translation>
+        <translation>A telepítés módosítása</translation>
     </message>
     <message>
         <source>This folder is read-only. Changes are not synced to the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ez a mappa csak olvasható. A módosítások nem szinkronizálódnak a NAS-re.</translation>
     </message>
     <message>
         <source>Choose Another</source>
@@ -1925,11 +1925,11 @@
     </message>
     <message>
         <source>Automatic connection failed because of a system error.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az automatikus kapcsolódás rendszerhiba miatt nem sikerült.</translation>
     </message>
     <message>
         <source>Recently Changed</source>
-        <translation type="unfinished"></translation>
+        <translation>Legutóbbi módosítások</translation>
     </message>
     <message>
         <source>Calderix Drive is ready.</source>
@@ -1941,7 +1941,7 @@
     </message>
     <message>
         <source>NAS storage is full</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS tárhelye megtelt</translation>
     </message>
     <message>
         <source>Syncing: %1</source>
@@ -1957,7 +1957,7 @@
     </message>
     <message>
         <source>The storage quota of this shared folder is full.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megosztott mappa tárhelykvótája betelt.</translation>
     </message>
     <message>
         <source>Preparing...</source>
@@ -1973,11 +1973,11 @@
     </message>
     <message>
         <source>Incompatible version</source>
-        <translation type="unfinished"></translation>
+        <translation>Nem kompatibilis verzió</translation>
     </message>
     <message>
         <source>Send to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Küldés ide: %1</translation>
     </message>
     <message>
         <source>You can change these settings at any time.</source>
@@ -1985,7 +1985,7 @@
     </message>
     <message>
         <source>An error occurred during the installation.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiba történt a telepítés során.</translation>
     </message>
     <message>
         <source>Pair with a NAS</source>
@@ -1993,15 +1993,15 @@
     </message>
     <message>
         <source>&amp;Do not close applications. A restart will be required.</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ne zárja be az alkalmazásokat. Újraindításra lesz szükség.</translation>
     </message>
     <message>
         <source>&amp;Finish</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Befejezés</translation>
     </message>
     <message>
         <source>Apply and Copy Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Alkalmazás és hivatkozás másolása</translation>
     </message>
     <message>
         <source>Pause Syncing</source>
@@ -2009,7 +2009,7 @@
     </message>
     <message>
         <source>Add folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mappa hozzáadása</translation>
     </message>
     <message>
         <source>Sync your home folder on the NAS with a Calderix Drive folder on this computer.</source>
@@ -2017,23 +2017,23 @@
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eltávolítás</translation>
     </message>
     <message>
         <source>One-way download</source>
-        <translation type="unfinished"></translation>
+        <translation>Egyirányú letöltés</translation>
     </message>
     <message>
         <source>Select the folder that you want to sync.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válassza ki a szinkronizálni kívánt mappát.</translation>
     </message>
     <message>
         <source>Previous month</source>
-        <translation type="unfinished"></translation>
+        <translation>Előző hónap</translation>
     </message>
     <message>
         <source>The home folder service is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A saját mappa szolgáltatás le van tiltva a NAS-en.</translation>
     </message>
     <message>
         <source>A network error occurred. Please check your connection.</source>
@@ -2045,23 +2045,23 @@
     </message>
     <message>
         <source>Sharing links need the Ostrel service, which is disabled on the NAS.</source>
-        <translation type="unfinished"></translation>
+        <translation>A megosztási hivatkozásokhoz az Ostrel szolgáltatás szükséges, amely le van tiltva a NAS-en.</translation>
     </message>
     <message>
         <source>Double-click action</source>
-        <translation type="unfinished"></translation>
+        <translation>Dupla kattintás művelete</translation>
     </message>
     <message>
         <source>Enable on-demand sync</source>
-        <translation type="unfinished"></translation>
+        <translation>Igény szerinti szinkronizálás engedélyezése</translation>
     </message>
     <message>
         <source>Files whose names begin with a dot</source>
-        <translation type="unfinished"></translation>
+        <translation>Ponttal kezdődő nevű fájlok</translation>
     </message>
     <message>
         <source>The NAS package does not support this version of Calderix Drive.</source>
-        <translation type="unfinished"></translation>
+        <translation>A NAS-csomag nem támogatja a Calderix Drive ezen verzióját.</translation>
     </message>
     <message>
         <source>Folder</source>
@@ -2081,15 +2081,15 @@
     </message>
     <message>
         <source>Close the tutorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Az útmutató bezárása</translation>
     </message>
     <message>
         <source>The shared folder %1 is already synced with %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>A(z) %1 megosztott mappa már szinkronizálva van a következővel: %2.</translation>
     </message>
     <message>
         <source>Automatic setup failed. Please set up Calderix Drive manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Az automatikus beállítás nem sikerült. Állítsa be manuálisan a Calderix Drive-ot.</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -2097,7 +2097,7 @@
     </message>
     <message>
         <source>Filter the sync log</source>
-        <translation type="unfinished"></translation>
+        <translation>A szinkronizálási napló szűrése</translation>
     </message>
     <message>
         <source>January</source>
@@ -2105,15 +2105,15 @@
     </message>
     <message>
         <source>No permission</source>
-        <translation type="unfinished"></translation>
+        <translation>Nincs engedély</translation>
     </message>
     <message>
         <source>Loading sync folders...</source>
-        <translation type="unfinished"></translation>
+        <translation>Szinkronizált mappák betöltése...</translation>
     </message>
     <message>
         <source>Choose what to do when setup finishes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Válassza ki, mi történjen a beállítás befejezése után.</translation>
     </message>
 </context>
 </TS>
