@@ -12,6 +12,7 @@ default_packages=(
   libarchive-dev libarchive-tools libicu-dev zstd libzstd-dev
   libgtest-dev libgmock-dev libbenchmark-dev valgrind
   xvfb xauth x11-utils
+  python3
   clang libclang-rt-14-dev
   fonts-dejavu-core
 )
