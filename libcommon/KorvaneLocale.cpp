@@ -4,6 +4,7 @@
 #include <QLocale>
 #include <QMap>
 #include <QtGlobal>
+#include <iterator>
 
 namespace {
 
@@ -18,13 +19,12 @@ const char* const kModule = "libcommon/KorvaneLocale";
 #define KORVANE_TRACE(format, expr) qDebug(format, kModule, __LINE__, #expr, expr)
 
 // Position is the language ID; the null entry ends the table.
-// clang-format off
-const char* const KorvaneLocale::grgszLanguages[21] = {
-    "enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",
-    "rus", "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy",
+const char* const KorvaneLocale::grgszLanguages[] = {
+#define CALDERIX_LANGUAGE(code, locale) #code,
+#include "languages.def"
+#undef CALDERIX_LANGUAGE
     nullptr,
 };
-// clang-format on
 
 const QString KorvaneLocale::qstrLanguageFallSafe = QStringLiteral("enu");
 
@@ -119,7 +119,7 @@ QString KorvaneLocale::getStrLanguageFallSafe()
 QString KorvaneLocale::getLanguageAbbrByID(int id)
 {
     QString code;
-    if (static_cast<unsigned>(id) <= 20u) {
+    if (id >= 0 && static_cast<size_t>(id) + 1 < std::size(grgszLanguages)) {
         code = QString::fromLatin1(grgszLanguages[id]);
     }
     return code;

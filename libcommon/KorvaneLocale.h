@@ -17,10 +17,11 @@ public:
     // All codes in ID order.
     static QStringList getSupportedLanguages();
     static QString getStrLanguageFallSafe();
-    // The code with that ID, or an empty string for an ID outside 0 .. 19.
+    // The code with that ID, or an empty string for an ID that has none.
     static QString getLanguageAbbrByID(int id);
 
 private:
-    static const char* const grgszLanguages[21];
+    // The codes of languages.def in ID order, then a null entry.
+    static const char* const grgszLanguages[];
     static const QString qstrLanguageFallSafe;
 };

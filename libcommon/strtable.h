@@ -10,6 +10,11 @@ namespace StrTable {
 // Number of rows; valid ids are 0 to StrCount - 1.
 constexpr int StrCount = 563;
 
+// The rows the launcher shows.
+constexpr int kStrPreparing = 461; // "Calderix Drive is initializing..."
+constexpr int kStrAppName = 493;   // "Calderix Drive"
+constexpr int kStrReady = 510;     // "Calderix Drive is ready."
+
 // Fills the table. Call once, before any thread asks for a text.
 void InitStrTable();
 

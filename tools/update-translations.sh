@@ -14,15 +14,20 @@ if ! command -v "$lupdate" >/dev/null 2>&1; then
   exit 1
 fi
 
-declare -A target=(
-  [enu]=en_US [cht]=zh_TW [chs]=zh_CN [jpn]=ja_JP [deu]=de_DE
-  [krn]=ko_KR [fra]=fr_FR [ita]=it_IT [esn]=es_ES [ptb]=pt_BR
-  [rus]=ru_RU [dan]=da_DK [nor]=nb_NO [sve]=sv_SE [nld]=nl_NL
-  [plk]=pl_PL [hun]=hu_HU [ptg]=pt_PT [trk]=tr_TR [csy]=cs_CZ
-)
+# Codes and their locales come from the list the launcher is built from.
+declare -A target=()
+all=()
+while read -r code lang; do
+  target[$code]=$lang
+  all+=("$code")
+done < <(sed -n 's/^CALDERIX_LANGUAGE(\([a-z]*\), *\([A-Za-z_]*\)).*/\1 \2/p' "$root/libcommon/languages.def")
+if [ ${#all[@]} -eq 0 ]; then
+  echo "update-translations: no languages in libcommon/languages.def" >&2
+  exit 1
+fi
 codes=("$@")
 if [ ${#codes[@]} -eq 0 ]; then
-  codes=(enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy)
+  codes=("${all[@]}")
 fi
 
 for code in "${codes[@]}"; do

@@ -16,6 +16,9 @@
 #include "log.h"
 #include "tmp_name_gen.h"
 
+#define LOG_SOURCE "file-op"
+#define LOG_COMPONENT kLog
+
 namespace {
 
 const ustring kLog("file_op_debug");
@@ -125,17 +128,12 @@ int MakeOneLevel(const char* prefix, bool last, bool force, mode_t mode)
         return mkdir(prefix, mode) == 0 ? 0 : -1;
     }
     if (last) {
-        Logger::LogMsg(Logger::LEVEL_INFO, kLog,
-                       "[INFO] file-op(%d): FSMKDirP: path: %s is existing file or symbolic link pointed to "
-                       "file\n",
-                       __LINE__, prefix);
+        LOG_MSG(INFO, "FSMKDirP: path: %s is existing file or symbolic link pointed to file\n", prefix);
         errno = EEXIST;
         return -1;
     }
     // The next level cannot be made below a file; that attempt reports it.
-    Logger::LogMsg(Logger::LEVEL_INFO, kLog,
-                   "[INFO] file-op(%d): FSMKDirP: path: %s is symbolic link pointed to folder\n", __LINE__,
-                   prefix);
+    LOG_MSG(INFO, "FSMKDirP: path: %s is symbolic link pointed to folder\n", prefix);
     return 0;
 }
 
@@ -149,8 +147,7 @@ int CopyBytes(int in, int out, char* buffer)
             continue;
         if (got < 0) {
             const int error = errno;
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): CopyFile: read: %s (%d)\n",
-                           __LINE__, strerror(error), error);
+            LOG_MSG(ERROR, "CopyFile: read: %s (%d)\n", strerror(error), error);
             return -1;
         }
         if (got == 0)
@@ -163,8 +160,7 @@ int CopyBytes(int in, int out, char* buffer)
                 continue;
             if (put <= 0) {
                 const int error = errno;
-                Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n",
-                               __LINE__, strerror(error), error);
+                LOG_MSG(ERROR, "CopyFile: write: %s (%d)\n", strerror(error), error);
                 return CopyWriteResult(error);
             }
             done += put;
@@ -184,8 +180,7 @@ int FinishDestination(int out)
         error = errno;
     if (error == 0)
         return 0;
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): CopyFile: write: %s (%d)\n", __LINE__,
-                   strerror(error), error);
+    LOG_MSG(ERROR, "CopyFile: write: %s (%d)\n", strerror(error), error);
     return CopyWriteResult(error);
 }
 
@@ -207,8 +202,7 @@ int OpenDestination(const ustring& destination, int in)
         return out;
     if (out >= 0)
         close(out);
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n", __LINE__,
-                   destination.c_str(), strerror(error), error);
+    LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)\n", destination.c_str(), strerror(error), error);
     return -1;
 }
 
@@ -329,19 +323,15 @@ int GetFileInfo(const ustring& path, _FILE_INFO_tag& info)
     info.type = type;
 
     const ustring input = path.normalize(ustring::NFC);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLog, "[DEBUG] file-op(%d): Input file path = [%s].\n", __LINE__,
-                   input.c_str());
+    LOG_MSG(DEBUG, "Input file path = [%s].\n", input.c_str());
     std::string canonical;
     const int status = platform::CanonicalPath(input.c_str(), platform::FinalLink::Keep, canonical);
     if (status != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): FSPathMakeRef: %d\n", __LINE__,
-                       status);
+        LOG_MSG(ERROR, "FSPathMakeRef: %d\n", status);
         return -1;
     }
     const ustring resolved = ustring(canonical).normalize(ustring::NFC);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLog,
-                   "[DEBUG] file-op(%d): FSRefMakePath outTargetPath path = [%s].\n", __LINE__,
-                   resolved.c_str());
+    LOG_MSG(DEBUG, "FSRefMakePath outTargetPath path = [%s].\n", resolved.c_str());
     info.path = resolved;
     info.name = FSBaseName(resolved);
     return 0;
@@ -374,9 +364,7 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle)
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to open directory '%s'. %s\n", __LINE__,
-                       path.c_str(), strerror(error));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(), strerror(error));
         return -1;
     }
     handle.dir = dir;
@@ -391,9 +379,8 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
     struct dirent* found = nullptr;
     const int error = handle.dir == nullptr ? EBADF : platform::ReadDirEntry(handle.dir, storage, found);
     if (error != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): FSOpenDir: Failed to read directory '%s'. %s\n", __LINE__,
-                       handle.path.c_str(), strerror(error));
+        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
+                strerror(error));
         return -1;
     }
     if (found == nullptr)
@@ -407,9 +394,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
         const ustring full = handle.path + "/" + name;
         _FILE_INFO_tag info;
         if (FSStat(full, info, true) < 0) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                           "[ERROR] file-op(%d): FSOpenDir: Failed to get info for '%s'\n", __LINE__,
-                           full.c_str());
+            LOG_MSG(ERROR, "FSOpenDir: Failed to get info for '%s'\n", full.c_str());
             return -1;
         }
         mtime = info.mtime;
@@ -435,9 +420,8 @@ bool isMountPoint(const ustring& path)
     std::string type;
     const int error = platform::FileSystemTypeName(path.c_str(), type);
     if (error != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): isMountPoint: Failed to get file system info '%s'. %s\n",
-                       __LINE__, path.c_str(), strerror(error));
+        LOG_MSG(ERROR, "isMountPoint: Failed to get file system info '%s'. %s\n", path.c_str(),
+                strerror(error));
         return false;
     }
     return type == "nfs" || type == "smbfs" || type == "afpfs";
@@ -448,28 +432,24 @@ bool IsMSDOS(const ustring& path)
     std::string type;
     const int error = platform::FileSystemTypeName(path.c_str(), type);
     if (error != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): IsSupportLargeFile: Failed to get file system info '%s'. %s\n",
-                       __LINE__, path.c_str(), strerror(error));
+        LOG_MSG(ERROR, "IsSupportLargeFile: Failed to get file system info '%s'. %s\n", path.c_str(),
+                strerror(error));
         return false;
     }
     if (type != "msdos")
         return false;
-    Logger::LogMsg(Logger::LEVEL_WARNING, kLog,
-                   "[WARNING] file-op(%d): Detect a MSDOS platform for path '%s'.\n", __LINE__, path.c_str());
+    LOG_MSG(WARNING, "Detect a MSDOS platform for path '%s'.\n", path.c_str());
     return true;
 }
 
 int FSGetRealPath(ustring& path)
 {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLog, "[DEBUG] file-op(%d):  org path [%s]\n", __LINE__,
-                   path.c_str());
+    LOG_MSG(DEBUG, " org path [%s]\n", path.c_str());
     std::string canonical;
     if (platform::CanonicalPath(path.c_str(), platform::FinalLink::Follow, canonical) != 0)
         return -1;
     path = canonical;
-    Logger::LogMsg(Logger::LEVEL_DEBUG, kLog, "[DEBUG] file-op(%d):  get full path [%s]\n", __LINE__,
-                   path.c_str());
+    LOG_MSG(DEBUG, " get full path [%s]\n", path.c_str());
     return 0;
 }
 
@@ -479,17 +459,13 @@ int FSReadSymbolicLink(const ustring& link, ustring& target)
     const ssize_t length = readlink(link.c_str(), buffer, sizeof buffer);
     if (length < 0) {
         const int error = errno;
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kLog,
-            "[ERROR] file-op(%d): FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: "
-            "%s)\n",
-            __LINE__, link.c_str(), error, strerror(error));
+        LOG_MSG(ERROR, "FSReadSymbolicLink: Failed to read symbolic link '%s' (code: %d, msg: %s)\n",
+                link.c_str(), error, strerror(error));
         return -1;
     }
     if (static_cast<size_t>(length) >= sizeof buffer) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): FSReadSymbolicLink: path of '%s' is more than %d\n", __LINE__,
-                       link.c_str(), static_cast<int>(sizeof buffer));
+        LOG_MSG(ERROR, "FSReadSymbolicLink: path of '%s' is more than %d\n", link.c_str(),
+                static_cast<int>(sizeof buffer));
         return -1;
     }
     target.assign(buffer, static_cast<unsigned long>(length));
@@ -544,25 +520,20 @@ int FSMKDir(const ustring& path, bool parents)
         return -1;
     _FILE_INFO_tag info;
     if (GetFileInfo(path, info) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): FSMKDir: Failed to to file info '%s'\n", __LINE__, path.c_str());
+        LOG_MSG(ERROR, "FSMKDir: Failed to to file info '%s'\n", path.c_str());
         return -1;
     }
     if (info.exist) {
         if (info.type == FS_TYPE_DIR)
             return 0;
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, kLog,
-            "[ERROR] file-op(%d): FSMKDir: Create a folder but local file system is not directory '%s' "
-            "(%d)\n",
-            __LINE__, path.c_str(), info.type);
+        LOG_MSG(ERROR, "FSMKDir: Create a folder but local file system is not directory '%s' (%d)\n",
+                path.c_str(), info.type);
         return -1;
     }
     const int made = parents ? FSMKDirP(path, nullptr, false, kModeFromUmask) : mkdir(path.c_str(), 0777);
     if (made != 0) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): path = %s errno : %s\n", __LINE__,
-                       path.c_str(), strerror(error));
+        LOG_MSG(ERROR, "path = %s errno : %s\n", path.c_str(), strerror(error));
         return -2;
     }
     return 0;
@@ -571,15 +542,12 @@ int FSMKDir(const ustring& path, bool parents)
 int FSMKDirFromRoot(const ustring& target, const ustring& root)
 {
     if (root.length() > target.length()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): Giving a root '%s' whose length is larger then target's '%s'.\n",
-                       __LINE__, root.c_str(), target.c_str());
+        LOG_MSG(ERROR, "Giving a root '%s' whose length is larger then target's '%s'.\n", root.c_str(),
+                target.c_str());
         return -1;
     }
     if (!FSIsParentFolder(root, target)) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                       "[ERROR] file-op(%d): root '%s' is not a parent folder of target '%s'\n", __LINE__,
-                       root.c_str(), target.c_str());
+        LOG_MSG(ERROR, "root '%s' is not a parent folder of target '%s'\n", root.c_str(), target.c_str());
         return -1;
     }
     const ustring rest = target.substr(root.length());
@@ -587,8 +555,7 @@ int FSMKDirFromRoot(const ustring& target, const ustring& root)
     while (current != rest) {
         const unsigned long slash = rest.find('/', current.length() + 1);
         current = slash == ustring::npos ? rest : rest.substr(0, slash);
-        Logger::LogMsg(Logger::LEVEL_DEBUG, kLog, "[DEBUG] file-op(%d): FSMKDirFromRoot: create %s\n",
-                       __LINE__, current.c_str());
+        LOG_MSG(DEBUG, "FSMKDirFromRoot: create %s\n", current.c_str());
         if (FSMKDir(root + current, false) != 0)
             return -1;
     }
@@ -600,8 +567,7 @@ int FSCopy(const ustring& source, const ustring& destination, bool remove_source
     const int in = open(source.c_str(), O_RDONLY | O_CLOEXEC);
     if (in < 0) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): CopyFile: open(%s): %s (%d)\n",
-                       __LINE__, source.c_str(), strerror(error), error);
+        LOG_MSG(ERROR, "CopyFile: open(%s): %s (%d)\n", source.c_str(), strerror(error), error);
         return -1;
     }
     const int out = OpenDestination(destination, in);
@@ -614,8 +580,7 @@ int FSCopy(const ustring& source, const ustring& destination, bool remove_source
     char* buffer = static_cast<char*>(malloc(kCopyBlock));
     if (buffer == nullptr) {
         const int error = errno;
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): FSCopy: malloc(%d): %s (%d)\n",
-                       __LINE__, static_cast<int>(kCopyBlock), strerror(error), error);
+        LOG_MSG(ERROR, "FSCopy: malloc(%d): %s (%d)\n", static_cast<int>(kCopyBlock), strerror(error), error);
         result = -1;
     } else {
         result = CopyBytes(in, out, buffer);
@@ -703,8 +668,7 @@ int FSMktemp(const ustring& folder, ustring& out)
         }
     }
     if (error != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, kLog, "[ERROR] file-op(%d): mkstemp(%s): %s\n", __LINE__,
-                       pattern.c_str(), strerror(error));
+        LOG_MSG(ERROR, "mkstemp(%s): %s\n", pattern.c_str(), strerror(error));
         return -1;
     }
     out = name;
@@ -732,11 +696,8 @@ int FSCreateSymbolicLink(const ustring& target, const ustring& link)
     if (symlink(target.c_str(), link.c_str()) == 0)
         return 0;
     const int error = errno;
-    Logger::LogMsg(
-        Logger::LEVEL_ERROR, kLog,
-        "[ERROR] file-op(%d): FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: "
-        "%d, msg: %s)\n",
-        __LINE__, target.c_str(), link.c_str(), error, strerror(error));
+    LOG_MSG(ERROR, "FSCreateSymbolicLink: Failed to create symbolic link '%s' -> '%s' (code: %d, msg: %s)\n",
+            target.c_str(), link.c_str(), error, strerror(error));
     return -1;
 }
 
@@ -745,8 +706,7 @@ int FSChown(const ustring& path, unsigned int uid, unsigned int gid)
     if (lchown(path.c_str(), uid, gid) == 0)
         return 0;
     const int error = errno;
-    Logger::LogMsg(Logger::LEVEL_ERROR, kLog,
-                   "[ERROR] file-op(%d): FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", __LINE__,
-                   path.c_str(), error, strerror(error));
+    LOG_MSG(ERROR, "FSChown: Failed to chown '%s' (code: %d, msg: %s)\n", path.c_str(), error,
+            strerror(error));
     return -1;
 }

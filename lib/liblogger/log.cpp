@@ -17,7 +17,7 @@ ustring Logger::log_path;
 pthread_mutex_t* Logger::log_lock = nullptr;
 int64_t* Logger::log_rotated_count_shared = nullptr;
 int64_t Logger::log_rotated_count_private = 0;
-int Logger::rotate_cnt = 50;
+int Logger::rotate_cnt = kDefaultRotateCount;
 bool Logger::log_initialized = true;
 bool Logger::inter_process_safe = false;
 int Logger::log_flock = -1;

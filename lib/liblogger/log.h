@@ -3,7 +3,8 @@
 // Every module logs with LogMsg(level, component, fmt, ...). The format
 // carries its own tag, source name and line, e.g.
 //   "[ERROR] extractor(%d): Allocate extractor failed\n"
-// and the logger only prefixes a timestamp "%b %d %H:%M:%S ".
+// and the logger only prefixes a timestamp "%b %d %H:%M:%S ". Product code
+// writes such calls through LOG_MSG below.
 #pragma once
 
 #include <cstdarg>
@@ -24,6 +25,9 @@ class Logger {
 public:
     enum Type { TYPE_SYSLOG = 1, TYPE_STDOUT = 2, TYPE_STDERR = 3, TYPE_FILE = 4 };
     enum Level { LEVEL_ERROR = 3, LEVEL_WARNING = 4, LEVEL_NOTE = 5, LEVEL_INFO = 6, LEVEL_DEBUG = 7 };
+    // The rotation count before any Initialize and the one the launcher
+    // passes: rotation keeps the names _0 to _48.
+    static constexpr int kDefaultRotateCount = 50;
 
     // Sets up the sink and reads per-component thresholds from level_file
     // (key=value, component=level). Returns 0, or -1 when a cell cannot be
@@ -67,5 +71,15 @@ private:
     static bool inter_process_safe;
     static int log_flock;
 };
+
+// LOG_MSG(ERROR, "Allocate extractor failed\n") logs under the level
+// LEVEL_ERROR the format "[ERROR] " LOG_SOURCE "(%d): Allocate extractor
+// failed\n" with the calling line as its first argument. The file that logs
+// defines LOG_SOURCE (the literal name its lines carry) and LOG_COMPONENT
+// (the component name, a ustring). Level and tag come from one word, so they
+// cannot disagree, and the format stays a literal that printf checks.
+#define LOG_MSG(LEVEL, fmt, ...)                                                                             \
+    Logger::LogMsg(Logger::LEVEL_##LEVEL, LOG_COMPONENT, "[" #LEVEL "] " LOG_SOURCE "(%d): " fmt, __LINE__,  \
+                   ##__VA_ARGS__)
 
 void LogMSG_c(int level, char* component, const char* fmt, va_list ap) CALDERIX_PRINTF(3, 0);

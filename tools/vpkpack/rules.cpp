@@ -208,7 +208,7 @@ Status UiEntryFromPlist(const std::string& plist, bool present, std::string* ui_
             return Refuse(Error::ForeignUiName, kPlistEntry, "CFBundleExecutable is '" + name + "'");
         }
     }
-    *ui_entry = std::string(kMacOSFolder) + "/" + kUiName;
+    *ui_entry = layout::kUiEntry;
     return {};
 }
 

@@ -7,16 +7,11 @@
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
-#include <climits>
-
 #include "vpkpack_p.h"
 
 namespace vpkpack {
 
 namespace {
-
-const char* const kVersionKeys[] = {"major_version", "minor_version", "build_version",
-                                    "icon_overlay_version"};
 
 // QSettings reads only files; a private folder keeps the copy out of reach.
 Status WriteScratch(const QString& path, const std::string& data)
@@ -31,27 +26,6 @@ Status WriteScratch(const QString& path, const std::string& data)
     return {};
 }
 
-// The build number as the launcher's atoi reads it, but only when the text
-// is nothing else: a plain decimal number above 0 that fits in an int.
-bool ParseBuild(const std::string& text, long* build)
-{
-    if (text.empty() || text.size() > 10) {
-        return false;
-    }
-    long value = 0;
-    for (char c : text) {
-        if (c < '0' || c > '9') {
-            return false;
-        }
-        value = value * 10 + (c - '0');
-    }
-    if (value <= 0 || value > INT_MAX) {
-        return false;
-    }
-    *build = value;
-    return true;
-}
-
 } // namespace
 
 Status ParseVersionFile(const std::string& data, VersionInfo* info)
@@ -60,7 +34,7 @@ Status ParseVersionFile(const std::string& data, VersionInfo* info)
     if (!scratch.isValid()) {
         return Refuse(Error::IoError, kInfoEntry, scratch.errorString().toStdString());
     }
-    const QString path = scratch.filePath("INFO");
+    const QString path = scratch.filePath(layout::kInfoName);
     Status status = WriteScratch(path, data);
     if (!status.ok()) {
         return status;
@@ -70,20 +44,23 @@ Status ParseVersionFile(const std::string& data, VersionInfo* info)
         return Refuse(Error::BadInfo, kInfoEntry);
     }
     VersionInfo read;
-    settings.beginGroup("Version");
-    for (const char* key : kVersionKeys) {
+    settings.beginGroup(layout::kVersionSection);
+    for (const char* key : layout::kVersionKeys) {
         if (settings.contains(key)) {
             read.values[key] = settings.value(key).toString().toStdString();
         }
     }
     settings.endGroup();
-    const auto build = read.values.find("build_version");
+    const auto build = read.values.find(layout::kBuildKey);
     if (build == read.values.end()) {
         return Refuse(Error::MissingBuildVersion, kInfoEntry);
     }
-    if (!ParseBuild(build->second, &read.build)) {
-        return Refuse(Error::BadBuildVersion, kInfoEntry, "build_version=" + build->second);
+    // Only a number that reads the same in the launcher and here.
+    int number = 0;
+    if (!layout::IsPlainBuildNumber(build->second, &number)) {
+        return Refuse(Error::BadBuildVersion, kInfoEntry, std::string(layout::kBuildKey) + "=" + build->second);
     }
+    read.build = number;
     *info = read;
     return {};
 }
@@ -92,13 +69,13 @@ Status FormatVersionFile(const VersionInfo& info, std::string* data)
 {
     QTemporaryDir scratch;
     if (!scratch.isValid()) {
-        return Refuse(Error::IoError, "INFO", scratch.errorString().toStdString());
+        return Refuse(Error::IoError, layout::kInfoName, scratch.errorString().toStdString());
     }
-    const QString path = scratch.filePath("INFO");
+    const QString path = scratch.filePath(layout::kInfoName);
     {
         QSettings settings(path, QSettings::IniFormat);
-        settings.beginGroup("Version");
-        for (const char* key : kVersionKeys) {
+        settings.beginGroup(layout::kVersionSection);
+        for (const char* key : layout::kVersionKeys) {
             const auto value = info.values.find(key);
             if (value != info.values.end()) {
                 settings.setValue(key, QString::fromStdString(value->second));

@@ -13,11 +13,6 @@
 
 namespace vpkpack {
 
-const char kInfoEntry[] = "Contents/Resources/INFO";
-const char kPlistEntry[] = "Contents/Info.plist";
-const char kMacOSFolder[] = "Contents/MacOS";
-const char kUiName[] = "calderix-drive-ui";
-
 namespace {
 
 // Same block size as the launcher's reader.

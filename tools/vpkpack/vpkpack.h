@@ -11,13 +11,15 @@
 #include <map>
 #include <string>
 
+#include "bundle_layout.h"
+
 namespace vpkpack {
 
 // Entry names of the files the launcher relies on, relative to the bundle.
-extern const char kInfoEntry[];   // "Contents/Resources/INFO"
-extern const char kPlistEntry[];  // "Contents/Info.plist"
-extern const char kMacOSFolder[]; // "Contents/MacOS"
-extern const char kUiName[];      // "calderix-drive-ui"
+using layout::kInfoEntry;
+using layout::kMacOSFolder;
+using layout::kPlistEntry;
+using layout::kUiName;
 
 enum class Format { TarZst, Zip, TarGz, TarXz };
 

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <cstring>
+#include <iterator>
 #include <dirent.h>
 #include <string>
 #include <sys/stat.h>
@@ -13,10 +14,13 @@
 #include <QString>
 #include <QVariant>
 
+#include "bundle_layout.h"
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
 
+#define LOG_SOURCE "calderix-service"
+#define LOG_COMPONENT log_component
 static const ustring log_component("service_debug");
 
 namespace {
@@ -68,9 +72,7 @@ ustring GetAppBackupDir(const ustring& path, int n)
     }
     char suffix[8];
     if (snprintf(suffix, sizeof suffix, "%d", n) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] calderix-service(%d): snprintf failed (continuing without postfix)",
-                       __LINE__);
+        LOG_MSG(ERROR, "snprintf failed (continuing without postfix)");
         suffix[0] = '\0';
     }
     return base + suffix;
@@ -81,21 +83,16 @@ ustring GetAppBackupDir(const ustring& path, int n)
 // it was. Reads only.
 void ReadVersionFile(const ustring& path, VerInfo& info)
 {
-    static const struct {
-        const char* key;
-        ustring VerInfo::*field;
-    } keys[] = {
-        {"major_version", &VerInfo::major_version},
-        {"minor_version", &VerInfo::minor_version},
-        {"build_version", &VerInfo::build_version},
-        {"icon_overlay_version", &VerInfo::icon_overlay_version},
-    };
+    // In the order of layout::kVersionKeys.
+    static ustring VerInfo::*const fields[] = {&VerInfo::major_version, &VerInfo::minor_version,
+                                                &VerInfo::build_version, &VerInfo::icon_overlay_version};
+    static_assert(std::size(fields) == std::size(layout::kVersionKeys), "one field per version key");
     QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
-    settings.beginGroup(QStringLiteral("Version"));
-    for (const auto& k : keys) {
-        const QString key = QString::fromLatin1(k.key);
+    settings.beginGroup(QString::fromLatin1(layout::kVersionSection));
+    for (size_t i = 0; i < std::size(fields); ++i) {
+        const QString key = QString::fromLatin1(layout::kVersionKeys[i]);
         if (settings.contains(key)) {
-            info.*k.field = FromQString(settings.value(key).toString());
+            info.*fields[i] = FromQString(settings.value(key).toString());
         }
     }
     settings.endGroup();
@@ -117,17 +114,13 @@ void Service::SetTimeout(int value)
 // the extractor's result; a failed extraction leaves what it wrote.
 int Service::ExtractPackage()
 {
-    const ustring archive_path = GetRootCalderixResourceInstallPath() + "/package/calderix.vpk";
+    const ustring archive_path = GetRootCalderixResourceInstallPath() + "/" + layout::kPackageEntry;
     const ustring destination = GetUserCalderixAppInstallPath();
     if (FSMKDir(destination, true) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] calderix-service(%d): failed to create folder: '%s'\n", __LINE__,
-                       destination.c_str());
+        LOG_MSG(ERROR, "failed to create folder: '%s'\n", destination.c_str());
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                   "[INFO] calderix-service(%d): extract package: '%s' -> '%s'\n", __LINE__,
-                   archive_path.c_str(), destination.c_str());
+    LOG_MSG(INFO, "extract package: '%s' -> '%s'\n", archive_path.c_str(), destination.c_str());
     Extractor extractor;
     extractor.dest_dir = destination;
     extractor.archive_path = archive_path;
@@ -138,29 +131,26 @@ int Service::ExtractPackage()
 // the record keeps its values and only the absence is logged.
 void Service::LoadSourceVersion()
 {
-    const ustring path = GetUserCalderixAppInstallPath() + "/Contents/Resources" + "/" + "INFO";
+    const ustring path = GetUserCalderixAppInstallPath() + "/" + layout::kInfoEntry;
     if (!IsFileExist(path, false)) {
-        Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                       "[INFO] calderix-service(%d): source does not exist\n", __LINE__);
+        LOG_MSG(INFO, "source does not exist\n");
         return;
     }
     ReadVersionFile(path, source_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                   "[INFO] calderix-service(%d): source_version = (%s, %s, %s, %s)\n", __LINE__,
-                   source_version.major_version.c_str(), source_version.minor_version.c_str(),
-                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
+    LOG_MSG(INFO, "source_version = (%s, %s, %s, %s)\n", source_version.major_version.c_str(),
+            source_version.minor_version.c_str(), source_version.build_version.c_str(),
+            source_version.icon_overlay_version.c_str());
 }
 
 // Fills target_version from the launcher bundle's "INFO". A missing file
 // reads as one without keys, so the line is logged in every case.
 void Service::LoadTargetVersion()
 {
-    const ustring path = GetRootCalderixResourceInstallPath() + "/" + "INFO";
+    const ustring path = GetRootCalderixResourceInstallPath() + "/" + layout::kInfoName;
     ReadVersionFile(path, target_version);
-    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                   "[INFO] calderix-service(%d): target_version = (%s, %s, %s, %s)\n", __LINE__,
-                   target_version.major_version.c_str(), target_version.minor_version.c_str(),
-                   target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
+    LOG_MSG(INFO, "target_version = (%s, %s, %s, %s)\n", target_version.major_version.c_str(),
+            target_version.minor_version.c_str(), target_version.build_version.c_str(),
+            target_version.icon_overlay_version.c_str());
 }
 
 // Returns 0 with the package extracted into app_path and the backup names
@@ -181,33 +171,21 @@ int Service::PrepareUserEnv()
                 moved = true;
                 break;
             }
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] calderix-service(%d): failed to backup app from '%s' -> '%s'\n", __LINE__,
-                           bundle.c_str(), backup.c_str());
+            LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s'\n", bundle.c_str(), backup.c_str());
         }
         if (!moved) {
-            Logger::LogMsg(
-                Logger::LEVEL_ERROR, log_component,
-                "[ERROR] calderix-service(%d): failed to backup app from '%s' -> '%s' at max retries, "
-                "exiting\n",
-                __LINE__, bundle.c_str(), backup.c_str());
+            LOG_MSG(ERROR, "failed to backup app from '%s' -> '%s' at max retries, exiting\n", bundle.c_str(),
+                    backup.c_str());
             return -1;
         }
     }
 
     if (ExtractPackage() != 0) {
         if (backup.empty()) {
-            Logger::LogMsg(
-                Logger::LEVEL_ERROR, log_component,
-                "[ERROR] calderix-service(%d): Failed to extract package, and no old installation to "
-                "rollback\n",
-                __LINE__);
+            LOG_MSG(ERROR, "Failed to extract package, and no old installation to rollback\n");
             return -1;
         }
-        Logger::LogMsg(
-            Logger::LEVEL_ERROR, log_component,
-            "[ERROR] calderix-service(%d): Failed to extract package, rollback to old installation\n",
-            __LINE__);
+        LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
         // Best effort: if either step fails there is nothing better to put
         // in place, and the backup stays under its name for the next run.
         MakeRemovable(bundle.c_str());
@@ -216,9 +194,7 @@ int Service::PrepareUserEnv()
         return -1;
     }
 
-    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                   "[INFO] calderix-service(%d): user installation is ready, removing backup app\n",
-                   __LINE__);
+    LOG_MSG(INFO, "user installation is ready, removing backup app\n");
     for (int j = 0; j <= used; ++j) {
         MakeRemovable(GetAppBackupDir(bundle, j).c_str());
         FSRemove(GetAppBackupDir(bundle, j), false);
@@ -231,8 +207,7 @@ int Service::PrepareUserEnv()
 void Service::RemoveAgedFolders()
 {
     const ustring path = GetUserCalderixInstallPath() + "/app";
-    Logger::LogMsg(Logger::LEVEL_INFO, log_component,
-                   "[INFO] calderix-service(%d): removing aged app folder %s\n", __LINE__, path.c_str());
+    LOG_MSG(INFO, "removing aged app folder %s\n", path.c_str());
     FSRemove(path, false);
 }
 
@@ -242,20 +217,14 @@ void Service::RemoveAgedFolders()
 // destination folder and 0.
 int Service::FSCopyPath(const ustring& source, const ustring& destination)
 {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                   "[DEBUG] calderix-service(%d): copy from '%s' to '%s'\n", __LINE__, source.c_str(),
-                   destination.c_str());
+    LOG_MSG(DEBUG, "copy from '%s' to '%s'\n", source.c_str(), destination.c_str());
     _FILE_INFO_tag info;
     if (FSStat(source, info, false) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] calderix-service(%d): FSCopyPath: failed to stat source '%s'\n", __LINE__,
-                       source.c_str());
+        LOG_MSG(ERROR, "FSCopyPath: failed to stat source '%s'\n", source.c_str());
         return -1;
     }
     if (!info.exist) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] calderix-service(%d): FSCopyPath: source path '%s' does not exist\n",
-                       __LINE__, source.c_str());
+        LOG_MSG(ERROR, "FSCopyPath: source path '%s' does not exist\n", source.c_str());
         return -1;
     }
     if (info.type != FS_TYPE_DIR) {
@@ -264,18 +233,13 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
         return FSCopy(source, destination, false) < 0 ? -1 : 0;
     }
     if (FSMKDir(destination, true) < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] calderix-service(%d): FSCopyPath: failed to create dest folder '%s'\n",
-                       __LINE__, destination.c_str());
+        LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", destination.c_str());
         return -1;
     }
 
     DIR_HANDLE handle;
     if (FSOpenDir(source, 0, handle) < 0) {
-        Logger::LogMsg(
-            Logger::LEVEL_WARNING, log_component,
-            "[WARNING] calderix-service(%d): FSCopyPath: failed to create handle  for src '%s' failed\n",
-            __LINE__, source.c_str());
+        LOG_MSG(WARNING, "FSCopyPath: failed to create handle  for src '%s' failed\n", source.c_str());
         return 0;
     }
     DIR_ENTRY entry;
@@ -287,9 +251,7 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
         const ustring to = destination + "/" + entry.name;
         const int r = entry.type == FS_TYPE_DIR ? FSCopyPath(from, to) : FSCopy(from, to, false);
         if (r < 0) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] calderix-service(%d): FSCopyPath: failed to copy from '%s' to '%s'\n",
-                           __LINE__, from.c_str(), to.c_str());
+            LOG_MSG(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
             FSCloseDir(handle);
             return -1;
         }
@@ -311,7 +273,7 @@ ustring Service::GetRootCalderixInstallPath()
 
 ustring Service::GetRootCalderixResourceInstallPath()
 {
-    return GetRootCalderixInstallPath() + "/Contents/Resources";
+    return GetRootCalderixInstallPath() + "/" + layout::kResourcesFolder;
 }
 
 ustring Service::GetUserCalderixInstallPath()

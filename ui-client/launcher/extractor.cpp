@@ -9,6 +9,8 @@
 #include "log.h"
 #include "strtable.h"
 
+#define LOG_SOURCE "extractor"
+#define LOG_COMPONENT log_component
 static const ustring log_component("extractor_debug");
 
 namespace {
@@ -22,9 +24,6 @@ constexpr size_t kBlockSize = 10240;
 constexpr int kDiskOptions =
     ARCHIVE_EXTRACT_UNLINK | ARCHIVE_EXTRACT_SECURE_NODOTDOT | ARCHIVE_EXTRACT_MAC_METADATA;
 static_assert(kDiskOptions == 0x2210, "the disk writer's options are part of the package contract");
-
-// String id of the "initialising" text that the dialog shows meanwhile.
-constexpr int kPreparingTextId = 461;
 
 struct ReadFree {
     void operator()(archive* a) const { archive_read_free(a); }
@@ -68,14 +67,12 @@ const char* ExtractErrorText(archive* in, archive* out)
 ReadHandle OpenForScan(const ustring& dest_dir, const ustring& path)
 {
     if (dest_dir.empty() || path.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid argument\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Invalid argument\n");
         return nullptr;
     }
     ReadHandle in(archive_read_new());
     if (!in) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Allocate archive failed\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Allocate archive failed\n");
         return nullptr;
     }
     // A filter or format this libarchive lacks only makes archives that need
@@ -83,9 +80,7 @@ ReadHandle OpenForScan(const ustring& dest_dir, const ustring& path)
     archive_read_support_filter_all(in.get());
     archive_read_support_format_all(in.get());
     if (!Succeeded(archive_read_open_filename(in.get(), path.c_str_utf8(), kBlockSize))) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] extractor(%d): archive_read_open_filename failed: '%s'\n", __LINE__,
-                       ErrorText(in.get()));
+        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n", ErrorText(in.get()));
         return nullptr;
     }
     return in;
@@ -104,16 +99,13 @@ int WriteEntries(archive* in, archive* out, const ustring& dest_dir, int total)
             return 0;
         }
         if (!Succeeded(r)) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_read_next_header failed: '%s'\n", __LINE__,
-                           ErrorText(in));
+            LOG_MSG(ERROR, "archive_read_next_header failed: '%s'\n", ErrorText(in));
             return -1;
         }
 
         const char* stored = archive_entry_pathname(entry);
         if (stored == nullptr) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_entry_pathname failed", __LINE__);
+            LOG_MSG(ERROR, "archive_entry_pathname failed");
             return -1;
         }
         // Prefixing every path, absolute ones included, keeps the entry
@@ -122,16 +114,12 @@ int WriteEntries(archive* in, archive* out, const ustring& dest_dir, int total)
         archive_entry_set_pathname(entry, target.c_str_utf8());
 
         if (!Succeeded(archive_read_extract2(in, entry, out))) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_read_extract2 failed: '%s'\n", __LINE__,
-                           ExtractErrorText(in, out));
+            LOG_MSG(ERROR, "archive_read_extract2 failed: '%s'\n", ExtractErrorText(in, out));
             return -1;
         }
         relay->UpdateProgress(total, current);
         if (!Succeeded(archive_write_finish_entry(out))) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_write_finish_entry failed: '%s'\n", __LINE__,
-                           ErrorText(out));
+            LOG_MSG(ERROR, "archive_write_finish_entry failed: '%s'\n", ErrorText(out));
             return -1;
         }
     }
@@ -179,20 +167,15 @@ int Extractor::List()
 int Extractor::Extract()
 {
     if (archive_path.empty() || dest_dir.empty()) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid Argument\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Invalid Argument\n");
         return -1;
     }
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                   "[DEBUG] extractor(%d): decompress from '%s' to '%s'\n", __LINE__, archive_path.c_str(),
-                   dest_dir.c_str());
-    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(kPreparingTextId));
+    LOG_MSG(DEBUG, "decompress from '%s' to '%s'\n", archive_path.c_str(), dest_dir.c_str());
+    Notify_Adapter::GetInstance()->UpdateDialogText(StrTable::LoadStr(StrTable::kStrPreparing));
 
     const int total = Count();
     if (total < 1) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] extractor(%d): Failed to calculate total file numbers, ret: %d\n", __LINE__,
-                       total);
+        LOG_MSG(ERROR, "Failed to calculate total file numbers, ret: %d\n", total);
         return -1;
     }
 
@@ -201,8 +184,7 @@ int Extractor::Extract()
     ReadHandle in(archive_read_new());
     out.reset(archive_write_disk_new());
     if (!in || !out) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] extractor(%d): Allocate extractor failed\n", __LINE__);
+        LOG_MSG(ERROR, "Allocate extractor failed\n");
         return -1;
     }
     // Setting options on a fresh disk writer has nothing that can fail.
@@ -216,9 +198,7 @@ int Extractor::Extract()
 #pragma GCC diagnostic pop
     archive_read_support_format_all(in.get());
     if (!Succeeded(archive_read_open_filename(in.get(), archive_path.c_str_utf8(), kBlockSize))) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] extractor(%d): Failed to read file '%s' ('%s')\n", __LINE__,
-                       archive_path.c_str(), ErrorText(in.get()));
+        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(), ErrorText(in.get()));
         return -1;
     }
     return WriteEntries(in.get(), out.get(), dest_dir, total);
@@ -227,8 +207,7 @@ int Extractor::Extract()
 int Extractor::copy_data(archive* in, archive* out)
 {
     if (in == nullptr || out == nullptr) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] extractor(%d): Invalid Argument\n",
-                       __LINE__);
+        LOG_MSG(ERROR, "Invalid Argument\n");
         return -1;
     }
     for (;;) {
@@ -240,15 +219,11 @@ int Extractor::copy_data(archive* in, archive* out)
             return 0;
         }
         if (!Succeeded(r)) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_read_data_block failed: '%s'\n", __LINE__,
-                           ErrorText(in));
+            LOG_MSG(ERROR, "archive_read_data_block failed: '%s'\n", ErrorText(in));
             return -1;
         }
         if (!Succeeded(archive_write_data_block(out, buffer, size, offset))) {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] extractor(%d): archive_write_data_block failed: '%s'\n", __LINE__,
-                           ErrorText(out));
+            LOG_MSG(ERROR, "archive_write_data_block failed: '%s'\n", ErrorText(out));
             return -1;
         }
     }

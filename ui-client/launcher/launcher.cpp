@@ -9,14 +9,9 @@
 #include "progress-dialog.h"
 #include "strtable.h"
 
+#define LOG_SOURCE "launcher"
+#define LOG_COMPONENT log_component
 static const ustring log_component("launcher_debug");
-
-namespace {
-
-// Label of the dialog once the user's copy is ready.
-const int kReadyTextId = 510;
-
-} // namespace
 
 // A function-local static: its construction is thread-safe, and it has no
 // parent, so it outlives every controller and goes away at process exit.
@@ -85,24 +80,22 @@ void Worker::JoinThread()
 // whatever copy is left.
 void Worker::HandleServicce()
 {
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): running\n", __LINE__);
+    LOG_MSG(DEBUG, "running\n");
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         emit sigShowMsg();
         if (service->HandlePackageUpgrade() == 0) {
             emit sigUpdateProgress(100, 100);
-            emit sigSetLabelText(StrTable::LoadStr(kReadyTextId));
+            emit sigSetLabelText(StrTable::LoadStr(StrTable::kStrReady));
         } else {
-            Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                           "[ERROR] launcher(%d): Failed to upgrade package\n", __LINE__);
+            LOG_MSG(ERROR, "Failed to upgrade package\n");
         }
     } else {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): no need to upgrade\n",
-                       __LINE__);
+        LOG_MSG(DEBUG, "no need to upgrade\n");
     }
     service->RemoveAgedFolders();
     service->PostUpgrade();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component, "[DEBUG] launcher(%d): done\n", __LINE__);
+    LOG_MSG(DEBUG, "done\n");
     emit sigServiceDone();
 }
 

@@ -17,6 +17,9 @@
 #include "strtable.h"
 #include "texts.h"
 
+#define LOG_SOURCE "main"
+#define LOG_COMPONENT ustring("launcher_debug")
+
 namespace {
 
 // The bundle's own plug-ins are the only ones Qt may load, as in a deployed
@@ -45,12 +48,11 @@ int main(int argc, char** argv)
     const ustring log_dir = Service::GetUserCalderixInstallPath() + "/log";
     // Without a log folder the logger keeps writing to standard error.
     if (QDir().mkpath(QString::fromUtf8(log_dir.c_str()))) {
-        Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", level_file, 50);
+        Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", level_file, Logger::kDefaultRotateCount);
     }
 
     if (app.isRunning()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, "launcher_debug",
-                       "[DEBUG] main(%d): app has already launched, return\n", __LINE__);
+        LOG_MSG(DEBUG, "app has already launched, return\n");
         return 0;
     }
 

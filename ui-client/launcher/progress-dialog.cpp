@@ -9,9 +9,6 @@
 
 namespace {
 
-const int kTitleTextId = 493;
-const int kInitializingTextId = 461;
-
 const char kStyleSheet[] = " QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ";
 
 } // namespace
@@ -24,14 +21,14 @@ ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, 
     const QString icon_path = QString::fromUtf8(Service::GetRootCalderixResourceInstallPath().c_str()) +
                               "/images/ico_72_calderix.png";
 
-    setWindowTitle(StrTable::LoadStr(kTitleTextId));
+    setWindowTitle(StrTable::LoadStr(StrTable::kStrAppName));
     setWindowIcon(QIcon(icon_path));
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     // Setting 0 first starts the toolkit's minimum-duration clock, after
     // which a dialog not yet shown shows itself.
     setValue(0);
     setRange(0, 100);
-    setLabelText(StrTable::LoadStr(kInitializingTextId));
+    setLabelText(StrTable::LoadStr(StrTable::kStrPreparing));
     setFont(font);
     setFixedWidth(400);
     setModal(true);

@@ -13,11 +13,14 @@
 #include <QDir>
 #include <QString>
 
+#include "bundle_layout.h"
 #include "config.h"
 #include "file-op.h"
 #include "launch_services.h"
 #include "log.h"
 
+#define LOG_SOURCE "mac/mac-service"
+#define LOG_COMPONENT log_component
 static const ustring log_component("service_debug");
 
 namespace {
@@ -25,11 +28,6 @@ namespace {
 // A user interface that outlives SIGTERM is probed this many times, one
 // second apart, before it is killed.
 const int kStopProbes = 5;
-
-int BuildNumber(const ustring& build)
-{
-    return build.empty() ? 0 : atoi(build.c_str());
-}
 
 // What a signal to a process came to; the one place where kill's errno
 // becomes a result (error keeps it for the log).
@@ -92,7 +90,7 @@ void MacService::LoadTargetVerInfo()
 
 bool MacService::PerUserBinPathExist()
 {
-    const ustring bin = app_path + "/" + "Contents/MacOS" + "/" + "calderix-drive-ui";
+    const ustring bin = app_path + "/" + layout::kUiEntry;
     return access(bin.c_str(), F_OK) == 0;
 }
 
@@ -100,23 +98,19 @@ void MacService::PreUpgrade()
 {
     LoadTargetVersion();
     LoadSourceVersion();
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                   "[DEBUG] mac/mac-service(%d): Source version: ('%s', '%s')\n", __LINE__,
-                   source_version.build_version.c_str(), source_version.icon_overlay_version.c_str());
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                   "[DEBUG] mac/mac-service(%d): Target version: ('%s', '%s')\n", __LINE__,
-                   target_version.build_version.c_str(), target_version.icon_overlay_version.c_str());
+    LOG_MSG(DEBUG, "Source version: ('%s', '%s')\n", source_version.build_version.c_str(),
+            source_version.icon_overlay_version.c_str());
+    LOG_MSG(DEBUG, "Target version: ('%s', '%s')\n", target_version.build_version.c_str(),
+            target_version.icon_overlay_version.c_str());
 }
 
 // True when the package's build is newer than the installed one (an empty
 // build counts as 0) or the installed copy has no user-interface executable.
 bool MacService::IsNeedUpgrade()
 {
-    const int source = BuildNumber(source_version.build_version);
-    const int target = BuildNumber(target_version.build_version);
-    Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                   "[DEBUG] mac/mac-service(%d): source version = %d, target version = %d\n", __LINE__,
-                   source, target);
+    const int source = layout::BuildNumber(source_version.build_version.c_str());
+    const int target = layout::BuildNumber(target_version.build_version.c_str());
+    LOG_MSG(DEBUG, "source version = %d, target version = %d\n", source, target);
     return target > source || !PerUserBinPathExist();
 }
 
@@ -128,24 +122,18 @@ void MacService::StopService()
 {
     const ustring pid_file = GetUserCalderixInstallPath() + "/ui.pid";
     if (!IsFileExist(pid_file, false)) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                       "[DEBUG] mac/mac-service(%d): pid file '%s' does not exist, no need to terminate\n",
-                       __LINE__, pid_file.c_str());
+        LOG_MSG(DEBUG, "pid file '%s' does not exist, no need to terminate\n", pid_file.c_str());
         return;
     }
     Config config;
     if (config.read(pid_file) < 0) {
-        Logger::LogMsg(Logger::LEVEL_NOTE, log_component,
-                       "[NOTE] mac/mac-service(%d): Failed to read pid file '%s', not exist ?\n", __LINE__,
-                       pid_file.c_str());
+        LOG_MSG(NOTE, "Failed to read pid file '%s', not exist ?\n", pid_file.c_str());
         return;
     }
     const auto entry = config.entries.find(ustring("pid"));
     const pid_t pid = entry == config.entries.end() ? 0 : ParsePid(entry->second);
     if (pid <= 0) {
-        Logger::LogMsg(Logger::LEVEL_NOTE, log_component,
-                       "[NOTE] mac/mac-service(%d): pid file '%s' holds no valid pid, nothing to terminate\n",
-                       __LINE__, pid_file.c_str());
+        LOG_MSG(NOTE, "pid file '%s' holds no valid pid, nothing to terminate\n", pid_file.c_str());
         return;
     }
 
@@ -154,8 +142,7 @@ void MacService::StopService()
     case SignalResult::NoProcess:
         return;
     case SignalResult::Failed:
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component, "[ERROR] mac/mac-service(%d): kill: %s (%d)\n",
-                       __LINE__, strerror(error), error);
+        LOG_MSG(ERROR, "kill: %s (%d)\n", strerror(error), error);
         break;
     case SignalResult::Sent:
         break;
@@ -172,8 +159,7 @@ void MacService::StopService()
 int MacService::HandlePackageUpgrade()
 {
     if (PerUserBinPathExist()) {
-        Logger::LogMsg(Logger::LEVEL_DEBUG, log_component,
-                       "[DEBUG] mac/mac-service(%d): local appdata exist\n", __LINE__);
+        LOG_MSG(DEBUG, "local appdata exist\n");
         StopService();
     }
     return PrepareUserEnv();
@@ -187,9 +173,7 @@ int MacService::LaunchPerUserBin()
     const QByteArray bundle = (QDir::homePath() + "/.Calderix/Calderix.app").toUtf8();
     const std::string path(bundle.constData(), static_cast<size_t>(bundle.size()));
     if (launch_services->Unregister(path) != 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] mac/mac-service(%d): Cannot unregister bundle, %s", __LINE__,
-                       bundle.constData());
+        LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.constData());
     }
     return launch_services->Open(path) == 0 ? 0 : -1;
 }
@@ -197,7 +181,6 @@ int MacService::LaunchPerUserBin()
 void MacService::PostUpgrade()
 {
     if (LaunchPerUserBin() < 0) {
-        Logger::LogMsg(Logger::LEVEL_ERROR, log_component,
-                       "[ERROR] mac/mac-service(%d): Failed to launch Calderix UI\n", __LINE__);
+        LOG_MSG(ERROR, "Failed to launch Calderix UI\n");
     }
 }
