@@ -15,6 +15,7 @@
 #include "fs_type.h"
 #include "log.h"
 #include "tmp_name_gen.h"
+#include "tree_walk.h"
 
 #define LOG_SOURCE "file-op"
 #define LOG_COMPONENT kLog
@@ -81,11 +82,6 @@ int TypeFromDirent(unsigned char type)
     default:
         return FS_TYPE_NONE;
     }
-}
-
-bool IsDotEntry(const char* name)
-{
-    return strcmp(name, ".") == 0 || strcmp(name, "..") == 0;
 }
 
 // Sets the umask to 0 for its lifetime unless the mode is to come from it.
@@ -206,29 +202,99 @@ int OpenDestination(const ustring& destination, int in)
     return -1;
 }
 
-// Moves the entries of the folder source into destination one by one, then
-// removes source: FSRename's move of a folder to another device.
-int MoveFolderAcross(const ustring& source, const ustring& destination, bool exact)
+// The move of one entry for FSRename. Returns 0 when source is now at
+// destination (or stays, being a link, device, FIFO or socket on another
+// device), 1 for a folder on another device whose destination folder now
+// exists and whose entries must follow, or FSRename's negative result.
+int MoveEntry(const ustring& source, const ustring& destination, bool exact)
 {
-    if (FSMKDir(destination, true) != 0)
-        return -3;
-    DIR* dir = opendir(source.c_str());
-    if (dir == nullptr)
-        return -3;
-    struct dirent storage;
-    struct dirent* entry = nullptr;
-    while (platform::ReadDirEntry(dir, storage, entry) == 0 && entry != nullptr) {
-        if (IsDotEntry(entry->d_name))
-            continue;
-        const ustring name(entry->d_name);
-        if (FSRename(source + "/" + name, destination + "/" + name, exact) != 0) {
-            closedir(dir);
-            return -3;
-        }
+    if (source.empty() || destination.empty())
+        return -1;
+    _FILE_INFO_tag info;
+    if (FSStat(source, info, exact) != 0 || !info.exist)
+        return -2;
+    if (rename(source.c_str(), destination.c_str()) == 0)
+        return 0;
+    const int error = errno;
+    if (error != EXDEV)
+        return RenameResult(error);
+    switch (info.type) {
+    case FS_TYPE_REGULAR:
+        return FSCopy(source, destination, true) == 0 ? 0 : -3;
+    case FS_TYPE_DIR:
+        return FSMKDir(destination, true) == 0 ? 1 : -3;
+    default:
+        return 0;
     }
-    closedir(dir);
-    return remove(source.c_str()) == 0 ? 0 : -3;
 }
+
+// Moves a folder's entries to another device one by one, each with
+// MoveEntry, and removes every source folder once it has been emptied. The
+// first entry that fails stops the move, leaving the rest in the source.
+class MoveAcross : public treewalk::Visitor {
+public:
+    MoveAcross(const ustring& destination, bool exact) : destination(destination), exact(exact) {}
+
+    treewalk::Next Enter(const treewalk::Entry& entry) override
+    {
+        if (entry.relative.empty())
+            return treewalk::Next::Go; // its destination exists already
+        const int moved = MoveEntry(entry.path, destination + "/" + entry.relative, exact);
+        return moved < 0 ? treewalk::Next::Stop : (moved == 1 ? treewalk::Next::Go : treewalk::Next::Skip);
+    }
+    treewalk::Next Leave(const treewalk::Entry& entry) override
+    {
+        return remove(entry.path.c_str()) == 0 ? treewalk::Next::Go : treewalk::Next::Stop;
+    }
+    // An unreadable listing ends like the last entry; the removal then says
+    // whether anything was left behind.
+    treewalk::Next Failed(const treewalk::Entry&, treewalk::Step step, int) override
+    {
+        return step == treewalk::Step::Read ? treewalk::Next::Go : treewalk::Next::Stop;
+    }
+
+private:
+    const ustring& destination;
+    const bool exact;
+};
+
+// Removes every entry of a tree, a folder after its contents. A vanished
+// entry counts as removed, and a folder that cannot be opened is left as it
+// is (the removal of the folder holding it then fails).
+class RemoveTree : public treewalk::Visitor {
+public:
+    treewalk::Next Enter(const treewalk::Entry& entry) override
+    {
+        return S_ISDIR(entry.st.st_mode) ? treewalk::Next::Go : Remove(entry);
+    }
+    treewalk::Next Leave(const treewalk::Entry& entry) override { return Remove(entry); }
+    treewalk::Next Failed(const treewalk::Entry&, treewalk::Step step, int error) override
+    {
+        return step != treewalk::Step::Stat || error == ENOENT ? treewalk::Next::Go : treewalk::Next::Stop;
+    }
+
+private:
+    static treewalk::Next Remove(const treewalk::Entry& entry)
+    {
+        return remove(entry.path.c_str()) == 0 ? treewalk::Next::Go : treewalk::Next::Stop;
+    }
+};
+
+// Gives back read, write and search permission on the folders the user owns.
+class GrantOwnFolders : public treewalk::Visitor {
+public:
+    treewalk::Next Enter(const treewalk::Entry& entry) override
+    {
+        const struct stat& st = entry.st;
+        if (!S_ISDIR(st.st_mode) || st.st_uid != geteuid())
+            return treewalk::Next::Skip;
+        if ((st.st_mode & S_IRWXU) != S_IRWXU &&
+            chmod(entry.path.c_str(), (st.st_mode & 07777) | S_IRWXU) != 0)
+            return treewalk::Next::Skip;
+        return treewalk::Next::Go;
+    }
+    treewalk::Next Failed(const treewalk::Entry&, treewalk::Step, int) override { return treewalk::Next::Go; }
+};
 
 } // namespace
 
@@ -359,12 +425,19 @@ int FSStat(const ustring& path, _FILE_INFO_tag& info, bool exact)
     return GetFileInfo(path, info) == 0 ? 0 : -2;
 }
 
+void FSReportDirFailure(const ustring& path, bool reading, int error)
+{
+    if (reading)
+        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", path.c_str(), strerror(error));
+    else
+        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(), strerror(error));
+}
+
 int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle)
 {
     DIR* dir = opendir(path.c_str());
     if (dir == nullptr) {
-        const int error = errno;
-        LOG_MSG(ERROR, "FSOpenDir: Failed to open directory '%s'. %s\n", path.c_str(), strerror(error));
+        FSReportDirFailure(path, false, errno);
         return -1;
     }
     handle.dir = dir;
@@ -379,8 +452,7 @@ int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry)
     struct dirent* found = nullptr;
     const int error = handle.dir == nullptr ? EBADF : platform::ReadDirEntry(handle.dir, storage, found);
     if (error != 0) {
-        LOG_MSG(ERROR, "FSOpenDir: Failed to read directory '%s'. %s\n", handle.path.c_str(),
-                strerror(error));
+        FSReportDirFailure(handle.path, true, error);
         return -1;
     }
     if (found == nullptr)
@@ -598,25 +670,11 @@ int FSCopy(const ustring& source, const ustring& destination, bool remove_source
 
 int FSRename(const ustring& source, const ustring& destination, bool exact)
 {
-    if (source.empty() || destination.empty())
-        return -1;
-    _FILE_INFO_tag info;
-    if (FSStat(source, info, exact) != 0 || !info.exist)
-        return -2;
-    if (rename(source.c_str(), destination.c_str()) == 0)
-        return 0;
-    const int error = errno;
-    if (error != EXDEV)
-        return RenameResult(error);
-    switch (info.type) {
-    case FS_TYPE_REGULAR:
-        return FSCopy(source, destination, true) == 0 ? 0 : -3;
-    case FS_TYPE_DIR:
-        return MoveFolderAcross(source, destination, exact);
-    default:
-        // Links, devices, FIFOs and sockets stay where they are.
-        return 0;
-    }
+    const int moved = MoveEntry(source, destination, exact);
+    if (moved != 1)
+        return moved;
+    MoveAcross across(destination, exact);
+    return treewalk::Walk(source.c_str(), across) ? 0 : -3;
 }
 
 int FSRemove(const ustring& path, bool)
@@ -628,24 +686,14 @@ int FSRemove(const ustring& path, bool)
         return -1;
     if (!info.exist)
         return 0;
-    if (info.type != FS_TYPE_DIR)
-        return remove(path.c_str()) == 0 ? 0 : -3;
+    RemoveTree removal;
+    return treewalk::Walk(path.c_str(), removal) ? 0 : -3;
+}
 
-    DIR* dir = opendir(path.c_str());
-    if (dir == nullptr)
-        return 0; // a folder we may not read is left as it is
-    struct dirent storage;
-    struct dirent* entry = nullptr;
-    while (platform::ReadDirEntry(dir, storage, entry) == 0 && entry != nullptr) {
-        if (IsDotEntry(entry->d_name))
-            continue;
-        if (FSRemove(path + "/" + entry->d_name, false) != 0) {
-            closedir(dir);
-            return -3;
-        }
-    }
-    closedir(dir);
-    return remove(path.c_str()) == 0 ? 0 : -3;
+void FSMakeRemovable(const ustring& path)
+{
+    GrantOwnFolders grant;
+    treewalk::Walk(path.c_str(), grant);
 }
 
 int FSMktemp(const ustring& folder, ustring& out)

@@ -95,6 +95,9 @@ int FSOpenDir(const ustring& path, int flags, DIR_HANDLE& handle);
 int FSReadDir(DIR_HANDLE& handle, DIR_ENTRY& entry);
 // Closes the stream and clears the handle.
 void FSCloseDir(DIR_HANDLE& handle);
+// Logs why the folder at path could not be opened (or, reading set, listed),
+// as FSOpenDir and FSReadDir do, for walks that read folders themselves.
+void FSReportDirFailure(const ustring& path, bool reading, int error);
 
 // Whether the path lies on a network file system (NFS, SMB, AFP).
 bool isMountPoint(const ustring& path);
@@ -129,6 +132,11 @@ int FSRename(const ustring& source, const ustring& destination, bool exact);
 // Removes a file, a link (never its target) or a whole tree: 0 (also for a
 // missing path), -1 when the path cannot be examined, -3 when removal failed.
 int FSRemove(const ustring& path, bool flag);
+// Gives the user back read, write and search permission on every folder of
+// the tree at path that they own, without following links, so that FSRemove
+// is not stopped by a folder they cannot write. Failures are left for
+// FSRemove to meet.
+void FSMakeRemovable(const ustring& path);
 // Creates an empty file of mode 0644 with a unique name in folder: 0 with out
 // set to its path, or -1.
 int FSMktemp(const ustring& folder, ustring& out);

@@ -86,6 +86,28 @@ TEST_F(ServiceUnit, CopyPathReproducesTheTree)
     EXPECT_EQ(lines, (Strings{copy(""), copy("/empty"), copy("/sub"), copy("/sub/deeper")}));
 }
 
+// The first failure ends the copy; each level on the way out names its own entry.
+TEST_F(ServiceUnit, CopyPathStopsAtTheFirstFailureAndReportsEveryLevel)
+{
+    const std::string src = root_ + "/src", dst = root_ + "/dst", file = "/sub/deeper/c.bin";
+    ASSERT_TRUE(MakeDirs(src + "/sub/deeper") && WriteFile(src + file, "c") && MakeDirs(dst + file))
+        << strerror(errno);
+
+    MacService service;
+    EXPECT_EQ(service.FSCopyPath(src, dst), -1);
+    Strings lines;
+    for (const std::string& line : launchertest::LogLines(ReadFile(Log()))) {
+        if (line.find("failed to copy") != std::string::npos) {
+            lines.push_back(line);
+        }
+    }
+    const auto failed = [&](const std::string& rel) {
+        return "[ERROR] calderix-service(%d): FSCopyPath: failed to copy from '" + src + rel + "' to '" +
+               dst + rel + "'";
+    };
+    EXPECT_EQ(lines, (Strings{failed(file), failed("/sub/deeper"), failed("/sub")}));
+}
+
 class FakeLaunchServices : public platform::LaunchServices {
 public:
     MOCK_METHOD(int, Unregister, (const std::string& bundle), (override));

@@ -3,11 +3,11 @@
 #include <cerrno>
 #include <cstdlib>
 #include <cstring>
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "tree_walk.h"
 #include "vpkpack_p.h"
 
 namespace vpkpack {
@@ -61,39 +61,23 @@ Status ReadLinkTarget(const std::string& path, const std::string& entry, off_t s
     }
 }
 
-// Appends the entries below folder, named prefix + "/" + name, folders
-// before their contents; stops at the first failure.
-Status Walk(const std::string& folder, const std::string& prefix, std::vector<Entry>* entries)
-{
-    DIR* dir = opendir(folder.c_str());
-    if (dir == nullptr) {
-        return FromErrno(errno, prefix.empty() ? folder : prefix);
-    }
-    Status status;
-    std::vector<Entry> subfolders;
-    for (;;) {
-        errno = 0;
-        const struct dirent* item = readdir(dir);
-        if (item == nullptr) {
-            if (errno != 0) {
-                status = FromErrno(errno, prefix.empty() ? folder : prefix);
-            }
-            break;
-        }
-        if (std::strcmp(item->d_name, ".") == 0 || std::strcmp(item->d_name, "..") == 0) {
-            continue;
+// Collects every entry below the root (root excluded) as an Entry; stops
+// at the first failure, with the status naming the entry.
+class CollectEntries : public treewalk::Visitor {
+public:
+    explicit CollectEntries(std::vector<Entry>* entries) : entries(entries) {}
+
+    treewalk::Next Enter(const treewalk::Entry& found) override
+    {
+        if (found.relative.empty()) {
+            return treewalk::Next::Go;
         }
         Entry entry;
-        entry.name = prefix.empty() ? std::string(item->d_name) : prefix + "/" + item->d_name;
-        entry.source = folder + "/" + item->d_name;
-        struct stat st;
-        if (lstat(entry.source.c_str(), &st) != 0) {
-            status = FromErrno(errno, entry.name);
-            break;
-        }
+        entry.name = found.relative;
+        entry.source = found.path;
+        const struct stat& st = found.st;
         if (S_ISDIR(st.st_mode)) {
             entry.type = EntryType::Folder;
-            subfolders.push_back(entry);
         } else if (S_ISREG(st.st_mode)) {
             entry.type = EntryType::File;
             entry.executable = (st.st_mode & 0111) != 0;
@@ -104,17 +88,23 @@ Status Walk(const std::string& folder, const std::string& prefix, std::vector<En
             entry.hard_link = st.st_nlink > 1;
             status = ReadLinkTarget(entry.source, entry.name, st.st_size, &entry.link_target);
             if (!status.ok()) {
-                break;
+                return treewalk::Next::Stop;
             }
         }
         entries->push_back(entry);
+        return treewalk::Next::Go;
     }
-    closedir(dir);
-    for (size_t i = 0; status.ok() && i < subfolders.size(); ++i) {
-        status = Walk(subfolders[i].source, subfolders[i].name, entries);
+    treewalk::Next Failed(const treewalk::Entry& found, treewalk::Step, int error) override
+    {
+        status = FromErrno(error, found.relative.empty() ? found.path : found.relative);
+        return treewalk::Next::Stop;
     }
-    return status;
-}
+
+    Status status;
+
+private:
+    std::vector<Entry>* entries;
+};
 
 // The resolved form of an existing path.
 Status RealPath(const std::string& path, std::string* resolved)
@@ -148,7 +138,10 @@ Status ScanTree(const std::string& root, std::vector<Entry>* entries)
     if (!S_ISDIR(st.st_mode)) {
         return Refuse(Error::NotAFolder, root);
     }
-    return Walk(root, std::string(), entries);
+    // The root may be a link to the bundle; nothing below it is followed.
+    CollectEntries collect(entries);
+    treewalk::Walk(root, collect, true);
+    return collect.status;
 }
 
 Status ReadSmallFile(const std::string& path, const std::string& entry, size_t limit, std::string* data)

@@ -3,7 +3,6 @@
 #include <cstdio>
 #include <cstring>
 #include <iterator>
-#include <dirent.h>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -18,6 +17,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "tree_walk.h"
 
 #define LOG_SOURCE "calderix-service"
 #define LOG_COMPONENT log_component
@@ -28,33 +28,16 @@ namespace {
 // The upgrade tries at most this many backup names before it gives up.
 const int kBackupTries = 10;
 
-// Gives the user back read, write and search permission on every folder
-// of the tree at path that they own, without following links. FSRemove
-// stops at the first entry it cannot remove, and a folder the user cannot
-// write is such a stop: a failed extraction can leave one in the new copy
-// (the disk writer applies the package's folder modes when it closes, and
-// other programs of the user may change them meanwhile), and a copy that
-// cannot be removed keeps the backup from being renamed back. Failures are
-// left for FSRemove to meet.
-void MakeRemovable(const std::string& path)
+// Removes the copy at path whatever its folders' modes: a failed extraction
+// can leave a folder the user cannot write in the new copy (the disk writer
+// applies the package's folder modes when it closes, and other programs of
+// the user may change them meanwhile), and FSRemove stops at such a folder,
+// which would keep the backup from being renamed back. Results are not
+// examined: what cannot be removed stays for the next run.
+void RemoveCopy(const ustring& path)
 {
-    struct stat st;
-    if (lstat(path.c_str(), &st) != 0 || !S_ISDIR(st.st_mode) || st.st_uid != geteuid()) {
-        return;
-    }
-    if ((st.st_mode & S_IRWXU) != S_IRWXU && chmod(path.c_str(), (st.st_mode & 07777) | S_IRWXU) != 0) {
-        return;
-    }
-    DIR* dir = opendir(path.c_str());
-    if (dir == nullptr) {
-        return;
-    }
-    while (const struct dirent* e = readdir(dir)) {
-        if (strcmp(e->d_name, ".") != 0 && strcmp(e->d_name, "..") != 0) {
-            MakeRemovable(path + "/" + e->d_name);
-        }
-    }
-    closedir(dir);
+    FSMakeRemovable(path);
+    FSRemove(path, false);
 }
 
 ustring FromQString(const QString& s)
@@ -85,7 +68,7 @@ void ReadVersionFile(const ustring& path, VerInfo& info)
 {
     // In the order of layout::kVersionKeys.
     static ustring VerInfo::*const fields[] = {&VerInfo::major_version, &VerInfo::minor_version,
-                                                &VerInfo::build_version, &VerInfo::icon_overlay_version};
+                                               &VerInfo::build_version, &VerInfo::icon_overlay_version};
     static_assert(std::size(fields) == std::size(layout::kVersionKeys), "one field per version key");
     QSettings settings(QString::fromUtf8(path.c_str()), QSettings::IniFormat);
     settings.beginGroup(QString::fromLatin1(layout::kVersionSection));
@@ -188,16 +171,14 @@ int Service::PrepareUserEnv()
         LOG_MSG(ERROR, "Failed to extract package, rollback to old installation\n");
         // Best effort: if either step fails there is nothing better to put
         // in place, and the backup stays under its name for the next run.
-        MakeRemovable(bundle.c_str());
-        FSRemove(bundle, false);
+        RemoveCopy(bundle);
         FSRename(backup, bundle, false);
         return -1;
     }
 
     LOG_MSG(INFO, "user installation is ready, removing backup app\n");
     for (int j = 0; j <= used; ++j) {
-        MakeRemovable(GetAppBackupDir(bundle, j).c_str());
-        FSRemove(GetAppBackupDir(bundle, j), false);
+        RemoveCopy(GetAppBackupDir(bundle, j));
     }
     return 0;
 }
@@ -210,6 +191,64 @@ void Service::RemoveAgedFolders()
     LOG_MSG(INFO, "removing aged app folder %s\n", path.c_str());
     FSRemove(path, false);
 }
+
+namespace {
+
+// FSCopyPath's copy of a folder tree: each folder is created, then filled
+// in listing order; a file (or anything else but a folder) is copied with
+// FSCopy. The first failure stops the copy and is reported for the failing
+// entry and each folder above it; a folder that cannot be listed stays
+// empty and the copy goes on.
+class CopyTree : public treewalk::Visitor {
+public:
+    explicit CopyTree(const ustring& destination) : destination(destination) {}
+
+    treewalk::Next Enter(const treewalk::Entry& entry) override
+    {
+        const ustring to = To(entry);
+        if (!S_ISDIR(entry.st.st_mode)) {
+            return FSCopy(entry.path.c_str(), to, false) < 0 ? treewalk::Next::Stop : treewalk::Next::Go;
+        }
+        if (!entry.relative.empty()) {
+            LOG_MSG(DEBUG, "copy from '%s' to '%s'\n", entry.path.c_str(), to.c_str());
+        }
+        if (FSMKDir(to, true) < 0) {
+            LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", to.c_str());
+            return treewalk::Next::Stop;
+        }
+        return treewalk::Next::Go;
+    }
+    treewalk::Next Failed(const treewalk::Entry& entry, treewalk::Step step, int error) override
+    {
+        if (step == treewalk::Step::Stat) {
+            LOG_MSG(ERROR, "FSCopyPath: failed to stat source '%s'\n", entry.path.c_str());
+            return treewalk::Next::Stop;
+        }
+        FSReportDirFailure(entry.path.c_str(), step == treewalk::Step::Read, error);
+        if (step == treewalk::Step::Open) {
+            LOG_MSG(WARNING, "FSCopyPath: failed to create handle  for src '%s' failed\n",
+                    entry.path.c_str());
+        }
+        return treewalk::Next::Go;
+    }
+    void Stopped(const treewalk::Entry& entry) override
+    {
+        if (!entry.relative.empty()) {
+            LOG_MSG(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n", entry.path.c_str(),
+                    To(entry).c_str());
+        }
+    }
+
+private:
+    ustring To(const treewalk::Entry& entry) const
+    {
+        return entry.relative.empty() ? destination : destination + "/" + entry.relative.c_str();
+    }
+
+    const ustring& destination;
+};
+
+} // namespace
 
 // Copies the file or tree at source to destination, entry by entry in
 // listing order. Returns 0, or -1 at the first failure with what was copied
@@ -232,32 +271,8 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
         // arrived.
         return FSCopy(source, destination, false) < 0 ? -1 : 0;
     }
-    if (FSMKDir(destination, true) < 0) {
-        LOG_MSG(ERROR, "FSCopyPath: failed to create dest folder '%s'\n", destination.c_str());
-        return -1;
-    }
-
-    DIR_HANDLE handle;
-    if (FSOpenDir(source, 0, handle) < 0) {
-        LOG_MSG(WARNING, "FSCopyPath: failed to create handle  for src '%s' failed\n", source.c_str());
-        return 0;
-    }
-    DIR_ENTRY entry;
-    while (FSReadDir(handle, entry) > 0) {
-        if (entry.name == ".." || entry.name == ".") {
-            continue;
-        }
-        const ustring from = source + "/" + entry.name;
-        const ustring to = destination + "/" + entry.name;
-        const int r = entry.type == FS_TYPE_DIR ? FSCopyPath(from, to) : FSCopy(from, to, false);
-        if (r < 0) {
-            LOG_MSG(ERROR, "FSCopyPath: failed to copy from '%s' to '%s'\n", from.c_str(), to.c_str());
-            FSCloseDir(handle);
-            return -1;
-        }
-    }
-    FSCloseDir(handle);
-    return 0;
+    CopyTree copy(destination);
+    return treewalk::Walk(source.c_str(), copy) ? 0 : -1;
 }
 
 ustring Service::GetUserInstallPath()
