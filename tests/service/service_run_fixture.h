@@ -6,10 +6,14 @@
 #pragma once
 
 #include <csignal>
+#include <fcntl.h>
 #include <filesystem>
 #include <ftw.h>
+#include <functional>
 #include <grp.h>
+#include <sched.h>
 #include <string>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -79,20 +83,61 @@ protected:
 
     // Runs the launcher (or command) with kill_trace.c preloaded the way
     // ShimEnv preloads the kill shim (here with no kill point), as nobody
-    // when asked (after HandToNobody).
-    testsupport::ProcessResult RunTraced(bool as_nobody = false,
-                                         const std::vector<std::string>& command = {}) const
+    // when asked (after HandToNobody), with enter run in the child last.
+    testsupport::ProcessResult RunTraced(bool as_nobody = false, const std::vector<std::string>& command = {},
+                                         const std::function<void()>& enter = {}) const
     {
         std::vector<testsupport::EnvChange> env = ShimEnv(TRACE_SHIM, "none");
         env.push_back(testsupport::Set("SERVICE_TRACE_FILE", root_ + "/trace"));
         return testsupport::Run(
-            command.empty() ? std::vector<std::string>{launcher_} : command, env, [as_nobody] {
+            command.empty() ? std::vector<std::string>{launcher_} : command, env, [as_nobody, enter] {
                 if (as_nobody &&
                     (setgroups(0, nullptr) != 0 || setgid(kNobody) != 0 || setuid(kNobody) != 0)) {
                     perror("dropping root");
                     _exit(127);
                 }
+                if (enter) {
+                    enter();
+                }
             });
+    }
+
+    // For a child about to exec: moves it into user and pid namespaces of
+    // its own, as their root, below the new namespace's init (pid 1), which
+    // is its parent; the program then runs as pid 2. The processes it
+    // leaves behind exit with its status.
+    static void BelowNamespaceInit()
+    {
+        const std::string uid = std::to_string(geteuid());
+        const std::string gid = std::to_string(getegid());
+        if (unshare(CLONE_NEWUSER | CLONE_NEWPID) != 0) {
+            perror("unshare");
+            _exit(127);
+        }
+        for (const auto& [file, text] : {std::pair<const char*, std::string>{"/proc/self/setgroups", "deny"},
+                                         {"/proc/self/uid_map", "0 " + uid + " 1"},
+                                         {"/proc/self/gid_map", "0 " + gid + " 1"}}) {
+            const int fd = open(file, O_WRONLY);
+            if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+                perror(file);
+                _exit(127);
+            }
+            close(fd);
+        }
+        // The first child is the namespace's init, the second one the program.
+        for (int level = 0; level < 2; ++level) {
+            const pid_t child = fork();
+            if (child < 0) {
+                perror("fork");
+                _exit(127);
+            }
+            if (child > 0) {
+                int status = 0;
+                while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+                }
+                _exit(WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status));
+            }
+        }
     }
     Strings Trace() const { return testsupport::Lines(testsupport::ReadFile(root_ + "/trace")); }
 
@@ -108,12 +153,13 @@ protected:
             << root_ << ": " << strerror(errno);
     }
 
-    // A stand-in user interface, a child of the test: a copy of sleep below
-    // the fixture (so that TearDown ends it), returned once it runs. Its
-    // bound only keeps a test that fails from hanging.
-    pid_t StartSleeper(bool as_nobody, bool ignore_term = false) const
+    // A child of the test running a copy of sleep at path below the fixture
+    // (so that TearDown ends it; by default outside the installation, a
+    // stand-in user interface inside it), returned once it runs. Its bound
+    // only keeps a test that fails from hanging.
+    pid_t StartSleeper(bool as_nobody, bool ignore_term = false, const std::string& path = {}) const
     {
-        const std::string sleep = root_ + "/sleep";
+        const std::string sleep = path.empty() ? root_ + "/sleep" : path;
         EXPECT_TRUE(testsupport::Exists(sleep) || testsupport::CopyTree("/bin/sleep", sleep))
             << strerror(errno);
         std::vector<std::string> argv{sleep, "60"};

@@ -274,7 +274,7 @@ TEST_F(ServiceRun, StopDoesNotWaitForAProcessThatIsGone)
     ASSERT_TRUE(WriteFile(install_ + "/ui.pid", "pid=" + std::to_string(gone) + "\n"));
 
     ExpectCleanExit(RunTraced());
-    EXPECT_EQ(Trace(), Strings{"kill " + std::to_string(gone) + " 15 ESRCH"});
+    EXPECT_EQ(Trace(), Strings{}) << "a process that is gone needs no signal";
     EXPECT_EQ(StopLines(), Strings{});
 }
 
@@ -327,5 +327,53 @@ INSTANTIATE_TEST_SUITE_P(
         // Cut to 32 bits this would be -1.
         BadPidCase{"WrapsToMinusOne", "pid=4294967295\n", kNoPid}),
     servicetest::RowName<BadPidCase>);
+
+// ------------------------------------------------------------------ pid files naming a stranger
+
+enum class Stranger { Parent, SameUser, OtherUser, NamespaceInit };
+
+struct StrangerCase {
+    const char* name;
+    Stranger who;
+};
+
+class StopStranger : public ServiceRun, public ::testing::WithParamInterface<StrangerCase> {};
+
+// A pid file left by a user interface that crashed, whose number now
+// belongs to another process: that process gets no signal at all, and the
+// upgrade goes on at once.
+TEST_P(StopStranger, LeavesItAlone)
+{
+    const StrangerCase& c = GetParam();
+    if (c.who == Stranger::OtherUser && geteuid() != 0) {
+        GTEST_SKIP() << "only root can start a process of another user";
+    }
+    InstallCopy("1200");
+    PackClient("1201");
+    // testsupport::Run forks this process into the launcher, so this
+    // process is the launcher's parent.
+    const pid_t pid = c.who == Stranger::Parent          ? getpid()
+                      : c.who == Stranger::NamespaceInit ? 1
+                                                         : StartSleeper(c.who == Stranger::OtherUser);
+    ASSERT_GT(pid, 0);
+    ASSERT_TRUE(WriteFile(install_ + "/ui.pid", "pid=" + std::to_string(pid) + "\n"));
+
+    ExpectCleanExit(RunTraced(false, {}, c.who == Stranger::NamespaceInit ? BelowNamespaceInit : nullptr));
+    EXPECT_EQ(Trace(), Strings{});
+    EXPECT_EQ(StopLines(), Strings{"[NOTE] mac/mac-service(%d): pid " + std::to_string(pid) +
+                                   " is not the user interface, nothing to terminate"});
+    if (c.who == Stranger::SameUser || c.who == Stranger::OtherUser) {
+        EXPECT_EQ(kill(pid, 0), 0) << "the stranger is gone";
+    }
+    EXPECT_EQ(reliability::Snapshot(app_), reliability::Snapshot(ClientBundle("1201")));
+}
+
+INSTANTIATE_TEST_SUITE_P(Strangers, StopStranger,
+                         ::testing::Values(StrangerCase{"LaunchersParent", Stranger::Parent},
+                                           StrangerCase{"ProcessOfTheSameUser", Stranger::SameUser},
+                                           StrangerCase{"ProcessOfAnotherUser", Stranger::OtherUser},
+                                           StrangerCase{"InitOfAPrivatePidNamespace",
+                                                        Stranger::NamespaceInit}),
+                         servicetest::RowName<StrangerCase>);
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "calderix-service.h"
 
+#include <climits>
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <iterator>
 #include <string>
@@ -273,6 +275,21 @@ int Service::FSCopyPath(const ustring& source, const ustring& destination)
     }
     CopyTree copy(destination);
     return treewalk::Walk(source.c_str(), copy) ? 0 : -1;
+}
+
+bool Service::IsInUserBundle(const std::string& path)
+{
+    const ustring install = GetUserCalderixInstallPath();
+    char real[PATH_MAX];
+    const ustring folder = realpath(install.c_str(), real) != nullptr ? ustring(real) : install;
+    const ustring bundle = folder + "/" + "Calderix.app";
+    for (int n = -1; n < kBackupTries; ++n) {
+        const ustring prefix = (n < 0 ? bundle : GetAppBackupDir(bundle, n)) + "/";
+        if (path.compare(0, prefix.length(), prefix.c_str()) == 0) {
+            return true;
+        }
+    }
+    return false;
 }
 
 ustring Service::GetUserInstallPath()

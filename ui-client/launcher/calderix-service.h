@@ -6,6 +6,8 @@
 // the decision and the upgrade sequence.
 #pragma once
 
+#include <string>
+
 #include "ustring.h"
 
 // The four values of a bundle's "INFO" file, as text.
@@ -49,6 +51,11 @@ public:
     static ustring GetUserCalderixInstallPath();
     static ustring GetUserCalderixAppInstallPath();
     static ustring GetUserCalderixDataInstallPath();
+
+    // Whether path, as the system reports a running executable's path (every
+    // link resolved), lies below the user's bundle or one of its backup
+    // names.
+    static bool IsInUserBundle(const std::string& path);
 
 protected:
     int timeout;

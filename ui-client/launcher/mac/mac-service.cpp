@@ -18,6 +18,7 @@
 #include "file-op.h"
 #include "launch_services.h"
 #include "log.h"
+#include "process_info.h"
 
 #define LOG_SOURCE "mac/mac-service"
 #define LOG_COMPONENT log_component
@@ -58,6 +59,23 @@ pid_t ParsePid(const ustring& text)
         return 0;
     }
     return static_cast<pid_t>(value);
+}
+
+enum class Identity { UserInterface, Stranger, Gone };
+
+// Whether pid is this user's user interface. pid 1, the launcher itself and
+// its parent never are, whatever they run.
+Identity Identify(pid_t pid)
+{
+    if (pid == 1 || pid == getpid() || pid == getppid()) {
+        return Identity::Stranger;
+    }
+    std::string exe;
+    const int r = platform::UserProcessExecutable(pid, exe);
+    if (r == ESRCH) {
+        return Identity::Gone;
+    }
+    return r == 0 && Service::IsInUserBundle(exe) ? Identity::UserInterface : Identity::Stranger;
 }
 
 } // namespace
@@ -116,8 +134,11 @@ bool MacService::IsNeedUpgrade()
 
 // Ends the user interface named by "ui.pid": SIGTERM, then up to five
 // probes a second apart, then SIGKILL. Sends nothing when the file is
-// missing, unreadable or names no valid process id; returns as soon as the
-// process is gone.
+// missing, unreadable or names no valid process id, and nothing to a
+// process that is not this user's user interface (whose executable lies in
+// the user's bundle or a backup of it): a stale pid file may name any
+// process by now. Returns as soon as the process is gone, and at once when
+// it may not be signalled.
 void MacService::StopService()
 {
     const ustring pid_file = GetUserCalderixInstallPath() + "/ui.pid";
@@ -136,6 +157,15 @@ void MacService::StopService()
         LOG_MSG(NOTE, "pid file '%s' holds no valid pid, nothing to terminate\n", pid_file.c_str());
         return;
     }
+    switch (Identify(pid)) {
+    case Identity::Gone:
+        return;
+    case Identity::Stranger:
+        LOG_MSG(NOTE, "pid %d is not the user interface, nothing to terminate\n", static_cast<int>(pid));
+        return;
+    case Identity::UserInterface:
+        break;
+    }
 
     int error = 0;
     switch (SendSignal(pid, SIGTERM, error)) {
@@ -143,6 +173,10 @@ void MacService::StopService()
         return;
     case SignalResult::Failed:
         LOG_MSG(ERROR, "kill: %s (%d)\n", strerror(error), error);
+        // A process we may not signal will not take SIGKILL either.
+        if (error == EPERM) {
+            return;
+        }
         break;
     case SignalResult::Sent:
         break;
