@@ -2,8 +2,13 @@
 
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <sstream>
 #include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "regular_file.h"
 
 namespace {
 
@@ -42,21 +47,44 @@ unsigned char* SkipBlanks(unsigned char* p)
 } // namespace
 
 // Returns 0 with the file's pairs merged into entries; -1 for an empty path
-// or a file that cannot be opened (entries untouched), for a read error
-// (pairs read before it are kept) and for a syntax error (entries emptied).
+// or a file that cannot be opened, is no regular file or is larger than a
+// small file (entries untouched), for a read error or more bytes than a
+// small file holds (pairs read before it are kept) and for a syntax error
+// (entries emptied).
 int Config::read(const ustring& path)
 {
     if (path.empty()) {
         return -1;
     }
-    FILE* fp = std::fopen(path.c_str_utf8(), "r");
+    // A FIFO or a device in the file's place would block or never end; it
+    // reads as a file that cannot be opened, and so does one too large to
+    // be a file of this kind.
+    const int fd = platform::OpenRegularFile(path.c_str_utf8(), O_RDONLY);
+    struct stat st;
+    if (fd >= 0 &&
+        (fstat(fd, &st) != 0 || static_cast<unsigned long long>(st.st_size) > platform::kSmallFileLimit)) {
+        close(fd);
+        return -1;
+    }
+    FILE* fp = fd < 0 ? nullptr : fdopen(fd, "r");
     if (fp == nullptr) {
+        if (fd >= 0) {
+            close(fd);
+        }
         return -1;
     }
 
     int result = 0;
+    size_t consumed = 0;
     char line[kLineBufferSize];
     while (std::fgets(line, sizeof line, fp) != nullptr) {
+        // A file whose size says nothing (one of /proc) is cut off like one
+        // that says too much.
+        consumed += std::strlen(line);
+        if (consumed > platform::kSmallFileLimit) {
+            result = -1;
+            break;
+        }
         ustring key;
         ustring value;
         int rc = parse(line, static_cast<int>(std::strlen(line)), key, value);

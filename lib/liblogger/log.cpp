@@ -1,13 +1,17 @@
 #include "log.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <syslog.h>
+#include <unistd.h>
 
 #include "config.h"
+#include "regular_file.h"
 
 Logger::Type Logger::log_type = Logger::TYPE_STDOUT;
 std::map<ustring, int> Logger::log_level;
@@ -47,6 +51,23 @@ int StatFileSize(const char* path, long long* size)
     }
     *size = static_cast<long long>(st.st_size);
     return 0;
+}
+
+// Opens the log file at path for appending, creating it when missing. A
+// FIFO, a device or a folder in its place is refused at once instead of
+// blocking the first message (a FIFO without a reader would wait forever).
+// Returns the stream, or null.
+FILE* OpenLogFile(const char* path)
+{
+    const int fd = platform::OpenRegularFile(path, O_WRONLY | O_APPEND | O_CREAT);
+    if (fd < 0) {
+        return nullptr;
+    }
+    FILE* fp = fdopen(fd, "a");
+    if (fp == nullptr) {
+        close(fd);
+    }
+    return fp;
 }
 
 // Standard output and standard error belong to the process; only streams
@@ -100,7 +121,7 @@ int Logger::Initialize(Type type, const ustring& path, const ustring& level_file
         return 0;
     }
 
-    FILE* fp = path.empty() ? nullptr : std::fopen(path.c_str_utf8(), "a");
+    FILE* fp = path.empty() ? nullptr : OpenLogFile(path.c_str_utf8());
     if (fp == nullptr) {
         // The type now says "file" but the earlier stream and path stay.
         // Messages keep going to that stream (standard error on a first
@@ -181,7 +202,7 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_
     // Without a log path (a failed first Initialize of the file sink) there
     // is nothing to rotate, so nothing is counted either.
     if (log_type == TYPE_FILE && !log_path.empty() && *log_size >= 0 && count >= 0) {
-        *log_size += count;
+        *log_size = *log_size > INT_MAX - count ? INT_MAX : *log_size + count;
         if (*log_size > kRotateSize) {
             Rotate();
             *log_size = 0;
@@ -235,7 +256,7 @@ int Logger::Rotate()
     if (std::rename(path, to) != 0) {
         return -1;
     }
-    FILE* fp = std::fopen(path, "a");
+    FILE* fp = OpenLogFile(path);
     if (fp == nullptr) {
         return -1;
     }
@@ -256,7 +277,7 @@ void Logger::ReloadLogFile()
         return;
     }
     CloseOwnStream(log_fp);
-    FILE* fp = std::fopen(log_path.c_str_utf8(), "a");
+    FILE* fp = OpenLogFile(log_path.c_str_utf8());
     if (fp == nullptr) {
         return;
     }
@@ -275,7 +296,9 @@ int Logger::GetFileSize(const ustring& path)
         PrintToFilePointer("stat(%s): %s (%d)\n", path.c_str_utf8(), std::strerror(error), error);
         return 0;
     }
-    return static_cast<int>(size);
+    // A file beyond the range of int (a sparse one, or years of logging)
+    // counts as full, so that the next message rotates it.
+    return size > INT_MAX ? INT_MAX : static_cast<int>(size);
 }
 
 int Logger::PrintToFilePointer(const char* fmt, ...)

@@ -10,58 +10,17 @@
 #include <unistd.h>
 #include <vector>
 
+#include "regular_file.h"
+
 namespace platform {
 
 namespace {
-
-// A property list larger than this is not a bundle's Info.plist.
-const off_t kMaxPlistSize = 1 << 20;
 
 // The one place where a failed call becomes a result: its errno, and never
 // 0, so that a call that failed without setting errno cannot read as success.
 int LastError()
 {
     return errno != 0 ? errno : EIO;
-}
-
-// Reads the whole regular file at path into out. Returns 0, or an errno
-// value (EFBIG for a file above limit bytes).
-int ReadSmallFile(const std::string& path, off_t limit, std::string& out)
-{
-    const int fd = open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) {
-        return LastError();
-    }
-    struct stat st;
-    int result = 0;
-    if (fstat(fd, &st) != 0) {
-        result = LastError();
-    } else if (st.st_size > limit) {
-        result = EFBIG;
-    } else {
-        out.clear();
-        char buf[8192];
-        for (;;) {
-            const ssize_t n = read(fd, buf, sizeof buf);
-            if (n == 0) {
-                break;
-            }
-            if (n < 0 && errno == EINTR) {
-                continue;
-            }
-            if (n < 0) {
-                result = LastError();
-                break;
-            }
-            out.append(buf, static_cast<size_t>(n));
-            if (static_cast<off_t>(out.size()) > limit) {
-                result = EFBIG;
-                break;
-            }
-        }
-    }
-    close(fd);
-    return result;
 }
 
 // The character data of an XML text node with the five predefined entities
@@ -178,7 +137,7 @@ int BundleExecutable(const std::string& bundle, std::string& exe)
     const std::string folder = bundle + "/Contents/MacOS";
     std::string plist;
     std::string name;
-    const int r = ReadSmallFile(bundle + "/Contents/Info.plist", kMaxPlistSize, plist);
+    const int r = ReadRegularFile(bundle + "/Contents/Info.plist", kSmallFileLimit, plist);
     if (r == 0) {
         name = PlistString(plist, "CFBundleExecutable");
     } else if (r != ENOENT) {

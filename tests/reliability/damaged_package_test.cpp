@@ -1,10 +1,14 @@
 // Packages cut short or with a flipped byte, each a whole launcher run:
 // the launcher must never crash (the sanitizer build runs the same rows)
 // and must leave the user the copy they had, or on a first installation
-// report that there is none to go back to.
+// report that there is none to go back to. Then something other than a
+// plain file at each place the launcher reads or appends to: it must
+// neither hang nor cost the user their copy.
 #include <algorithm>
+#include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <unistd.h>
 #include <vector>
 
@@ -92,6 +96,123 @@ INSTANTIATE_TEST_SUITE_P(Damage, DamagedPackage,
                                            DamageRow{"first_time_flip_at_a_third", true, 333, 0, true}),
                          [](const ::testing::TestParamInfo<DamageRow>& info) {
                              return std::string(info.param.name);
+                         });
+
+enum class Kind { Fifo, Device, Folder, LinkLoop, Huge };
+enum class Place { BundleInfo, InstalledInfo, PidFile, LevelFile, LogFile, Package };
+
+const char* Name(Kind kind)
+{
+    static const char* const names[] = {"fifo", "device", "folder", "link_loop", "huge"};
+    return names[static_cast<int>(kind)];
+}
+
+const char* Name(Place place)
+{
+    static const char* const names[] = {"bundle_info", "installed_info", "pid_file",
+                                        "level_file",  "log_file",       "package"};
+    return names[static_cast<int>(place)];
+}
+
+class OddFile : public ReliabilityFixture, public ::testing::WithParamInterface<std::tuple<Kind, Place>> {
+protected:
+    std::string PathOf(Place place) const
+    {
+        switch (place) {
+        case Place::BundleInfo:
+            return bundle_ + "/Contents/Resources/INFO";
+        case Place::InstalledInfo:
+            return app_ + "/Contents/Resources/INFO";
+        case Place::PidFile:
+            return install_ + "/ui.pid";
+        case Place::LevelFile:
+            return LevelFile();
+        case Place::LogFile:
+            return LogPath();
+        case Place::Package:
+            return package_;
+        }
+        return {};
+    }
+
+    // Puts a thing of kind at path in place of what is there. The device
+    // reads as /dev/zero: a node of our own as root, who could otherwise
+    // replace the system's through a link (the user interface saves its pid
+    // file by renaming onto the link's target), else a link to it. The huge
+    // file is sparse, larger than int can count.
+    static ::testing::AssertionResult Plant(Kind kind, const std::string& path)
+    {
+        bool ok = RemoveTree(path);
+        switch (kind) {
+        case Kind::Fifo:
+            ok = ok && mkfifo(path.c_str(), 0644) == 0;
+            break;
+        case Kind::Device:
+            ok = ok && (geteuid() == 0 ? mknod(path.c_str(), S_IFCHR | 0666, makedev(1, 5))
+                                       : symlink("/dev/zero", path.c_str())) == 0;
+            break;
+        case Kind::Folder:
+            ok = ok && MakeDirs(path);
+            break;
+        case Kind::LinkLoop:
+            ok = ok && symlink(path.c_str(), path.c_str()) == 0;
+            break;
+        case Kind::Huge: {
+            const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+            ok = ok && fd >= 0 && ftruncate(fd, 3LL << 30) == 0;
+            if (fd >= 0) {
+                close(fd);
+            }
+            break;
+        }
+        }
+        if (!ok) {
+            return ::testing::AssertionFailure() << path << ": " << strerror(errno);
+        }
+        return ::testing::AssertionSuccess();
+    }
+};
+
+TEST_P(OddFile, LauncherGoesOnAndTheUserKeepsACopy)
+{
+    const auto [kind, place] = GetParam();
+    InstallCopy("1200");
+    PackClient("1201");
+    SetLevels("service_debug=6\n");
+    ASSERT_TRUE(MakeDirs(install_ + "/log"));
+    // Without the launcher bundle's build, or its package, there is nothing
+    // to install; every other odd file leaves the upgrade to go ahead.
+    const bool upgrades = place != Place::BundleInfo && place != Place::Package;
+    const reliability::Tree expected =
+        upgrades ? reliability::Snapshot(ClientBundle("1201")) : reliability::Snapshot(app_);
+    ASSERT_TRUE(Plant(kind, PathOf(place)));
+
+    const testsupport::ProcessResult run = Finish(StartLauncher("run", Env(home_)), "run", time(nullptr) + 30);
+    ASSERT_TRUE(run.exited) << "the launcher hung and was killed\n" << run.err;
+    ExpectCleanExit(run);
+    const reliability::Tree after = reliability::Snapshot(app_);
+    EXPECT_EQ(after, expected) << (upgrades ? "the new copy is not the package's:\n" : "the old copy changed:\n")
+                               << reliability::Difference(expected, after);
+    EXPECT_TRUE(Backups().empty()) << "a backup stayed: " << Backups().front();
+    // The user interface refuses to run without its own pid file; the log
+    // file is only readable when it is one.
+    if (place != Place::PidFile) {
+        ExpectUiStartedOnce();
+    }
+    if (place == Place::LogFile && kind == Kind::Huge) {
+        EXPECT_TRUE(Exists(LogPath() + "_0")) << "a log file beyond int's count was not rotated";
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, OddFile,
+                         ::testing::Combine(::testing::Values(Kind::Fifo, Kind::Device, Kind::Folder,
+                                                              Kind::LinkLoop, Kind::Huge),
+                                            ::testing::Values(Place::BundleInfo, Place::InstalledInfo,
+                                                              Place::PidFile, Place::LevelFile,
+                                                              Place::LogFile, Place::Package)),
+                         [](const ::testing::TestParamInfo<std::tuple<Kind, Place>>& info) {
+                             return std::string(Name(std::get<0>(info.param))) + "_at_" +
+                                    Name(std::get<1>(info.param));
                          });
 
 } // namespace

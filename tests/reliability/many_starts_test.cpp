@@ -23,34 +23,7 @@ constexpr int kLaunchers = 20;
 constexpr int kFolders = 20;
 constexpr int kFilesPerFolder = 15;
 
-class ManyStarts : public ReliabilityFixture {
-protected:
-    // Starts a launcher with its output kept under name.
-    pid_t StartLauncher(const std::string& name, const std::vector<EnvChange>& env) const
-    {
-        return Start({launcher_}, env, root_ + "/" + name + ".out", root_ + "/" + name + ".err");
-    }
-
-    // Waits for the launcher started under name; one still running at
-    // deadline is killed, a bound against hanging and never a measure.
-    ProcessResult Finish(pid_t pid, const std::string& name, time_t deadline) const
-    {
-        int status = -1;
-        while (waitpid(pid, &status, WNOHANG) == 0) {
-            if (time(nullptr) > deadline) {
-                kill(pid, SIGKILL);
-            }
-            usleep(10000);
-        }
-        ProcessResult result;
-        result.exited = WIFEXITED(status);
-        result.exit_code = result.exited ? WEXITSTATUS(status) : -1;
-        result.term_signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
-        result.out = ReadFile(root_ + "/" + name + ".out");
-        result.err = ReadFile(root_ + "/" + name + ".err");
-        return result;
-    }
-};
+using ManyStarts = ReliabilityFixture;
 
 TEST_F(ManyStarts, OneUpgradesAndTheOthersStepAside)
 {

@@ -10,7 +10,10 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <csignal>
+#include <ctime>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
 
@@ -240,6 +243,32 @@ protected:
             tree["<bundle>/" + entry.first] = entry.second;
         }
         return tree;
+    }
+
+    // Starts the launcher with its output kept under name.
+    pid_t StartLauncher(const std::string& name, const std::vector<testsupport::EnvChange>& env) const
+    {
+        return testsupport::Start({launcher_}, env, root_ + "/" + name + ".out", root_ + "/" + name + ".err");
+    }
+
+    // Waits for the launcher started under name; one still running at
+    // deadline is killed, a bound against hanging and never a measure.
+    testsupport::ProcessResult Finish(pid_t pid, const std::string& name, time_t deadline) const
+    {
+        int status = -1;
+        while (waitpid(pid, &status, WNOHANG) == 0) {
+            if (time(nullptr) > deadline) {
+                kill(pid, SIGKILL);
+            }
+            usleep(10000);
+        }
+        testsupport::ProcessResult result;
+        result.exited = WIFEXITED(status);
+        result.exit_code = result.exited ? WEXITSTATUS(status) : -1;
+        result.term_signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+        result.out = testsupport::ReadFile(root_ + "/" + name + ".out");
+        result.err = testsupport::ReadFile(root_ + "/" + name + ".err");
+        return result;
     }
 
     // The user interface came up, once.

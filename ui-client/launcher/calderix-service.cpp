@@ -19,6 +19,7 @@
 #include "extractor.h"
 #include "file-op.h"
 #include "log.h"
+#include "regular_file.h"
 #include "tree_walk.h"
 
 #define LOG_SOURCE "calderix-service"
@@ -65,9 +66,15 @@ ustring GetAppBackupDir(const ustring& path, int n)
 
 // Copies the "Version" values of the INI file at path into info, key by key;
 // a key the file lacks (or a file that cannot be read) leaves its field as
-// it was. Reads only.
-void ReadVersionFile(const ustring& path, VerInfo& info)
+// it was. Returns false, reading nothing, when the file is no regular file
+// of at most a small file's size: the INI reader would wait forever on a
+// FIFO and read a device or a huge file to its end. Reads only.
+bool ReadVersionFile(const ustring& path, VerInfo& info)
 {
+    std::string bytes;
+    if (platform::ReadRegularFile(path.c_str(), platform::kSmallFileLimit, bytes) != 0) {
+        return false;
+    }
     // In the order of layout::kVersionKeys.
     static ustring VerInfo::*const fields[] = {&VerInfo::major_version, &VerInfo::minor_version,
                                                &VerInfo::build_version, &VerInfo::icon_overlay_version};
@@ -81,6 +88,7 @@ void ReadVersionFile(const ustring& path, VerInfo& info)
         }
     }
     settings.endGroup();
+    return true;
 }
 
 } // namespace

@@ -2,11 +2,15 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <cerrno>
 #include <cstdio>
+#include <fcntl.h>
 #include <memory>
+#include <unistd.h>
 
 #include "launcher.h"
 #include "log.h"
+#include "regular_file.h"
 #include "strtable.h"
 
 #define LOG_SOURCE "extractor"
@@ -34,6 +38,42 @@ struct WriteFree {
 using ReadHandle = std::unique_ptr<archive, ReadFree>;
 using WriteHandle = std::unique_ptr<archive, WriteFree>;
 
+// A read handle together with the package file it reads; the handle is
+// released before the file is closed.
+struct PackageReader {
+    ReadHandle in;
+    int fd = -1;
+
+    PackageReader() = default;
+    PackageReader(const PackageReader&) = delete;
+    PackageReader& operator=(const PackageReader&) = delete;
+    ~PackageReader()
+    {
+        in.reset();
+        if (fd >= 0) {
+            close(fd);
+        }
+    }
+};
+
+// Opens the package at path on reader.in. Only a regular file is read: a
+// FIFO or a device in the package's place would block the extraction with
+// the old copy moved aside. Returns libarchive's result, with the reason on
+// the handle when the file itself was refused.
+int OpenPackage(PackageReader& reader, const ustring& path)
+{
+    reader.fd = platform::OpenRegularFile(path.c_str_utf8(), O_RDONLY);
+    if (reader.fd < 0) {
+        const int error = errno;
+        // Worded as libarchive words its own failure to open a file.
+        archive_set_error(reader.in.get(), error,
+                          error == EINVAL ? "'%s' is not a regular file" : "Failed to open '%s'",
+                          path.c_str());
+        return ARCHIVE_FATAL;
+    }
+    return archive_read_open_fd(reader.in.get(), reader.fd, kBlockSize);
+}
+
 // The one place where libarchive's results become ours: ARCHIVE_WARN means
 // an entry was not restored as stored, which for an installation is as bad
 // as not at all. Callers test for ARCHIVE_EOF themselves where it ends a
@@ -60,30 +100,30 @@ const char* ExtractErrorText(archive* in, archive* out)
     return text != nullptr ? text : ErrorText(in);
 }
 
-// For Count and List: a read handle on path with every filter and format
-// enabled, positioned before the first header; null, after logging why,
+// For Count and List: reader.in on path with every filter and format
+// enabled, positioned before the first header. False, after logging why,
 // when either path is empty, the handle cannot be created or the archive
 // cannot be opened.
-ReadHandle OpenForScan(const ustring& dest_dir, const ustring& path)
+bool OpenForScan(const ustring& dest_dir, const ustring& path, PackageReader& reader)
 {
     if (dest_dir.empty() || path.empty()) {
         LOG_MSG(ERROR, "Invalid argument\n");
-        return nullptr;
+        return false;
     }
-    ReadHandle in(archive_read_new());
-    if (!in) {
+    reader.in.reset(archive_read_new());
+    if (!reader.in) {
         LOG_MSG(ERROR, "Allocate archive failed\n");
-        return nullptr;
+        return false;
     }
     // A filter or format this libarchive lacks only makes archives that need
     // it fail to open, which the open below reports.
-    archive_read_support_filter_all(in.get());
-    archive_read_support_format_all(in.get());
-    if (!Succeeded(archive_read_open_filename(in.get(), path.c_str_utf8(), kBlockSize))) {
-        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n", ErrorText(in.get()));
-        return nullptr;
+    archive_read_support_filter_all(reader.in.get());
+    archive_read_support_format_all(reader.in.get());
+    if (!Succeeded(OpenPackage(reader, path))) {
+        LOG_MSG(ERROR, "archive_read_open_filename failed: '%s'\n", ErrorText(reader.in.get()));
+        return false;
     }
-    return in;
+    return true;
 }
 
 // Writes the entries of the opened archive in below dest_dir through the
@@ -129,38 +169,40 @@ int WriteEntries(archive* in, archive* out, const ustring& dest_dir, int total)
 
 int Extractor::Count()
 {
-    ReadHandle in = OpenForScan(dest_dir, archive_path);
-    if (!in) {
+    PackageReader reader;
+    if (!OpenForScan(dest_dir, archive_path, reader)) {
         return -1;
     }
+    archive* in = reader.in.get();
     // A failed skip leaves the reader unable to find the next header, and
     // that failure ends the count like the end of the archive does.
     int count = 0;
     archive_entry* entry = nullptr;
-    while (Succeeded(archive_read_next_header(in.get(), &entry))) {
+    while (Succeeded(archive_read_next_header(in, &entry))) {
         ++count;
-        archive_read_data_skip(in.get());
+        archive_read_data_skip(in);
     }
     return count;
 }
 
 int Extractor::List()
 {
-    ReadHandle in = OpenForScan(dest_dir, archive_path);
-    if (!in) {
+    PackageReader reader;
+    if (!OpenForScan(dest_dir, archive_path, reader)) {
         return -1;
     }
+    archive* in = reader.in.get();
     // An entry without a path name still gets its line, so that the lines
     // stay in step with the entries.
     archive_entry* entry = nullptr;
-    while (Succeeded(archive_read_next_header(in.get(), &entry))) {
+    while (Succeeded(archive_read_next_header(in, &entry))) {
         const char* name = archive_entry_pathname(entry);
         std::fputs(name != nullptr ? name : "", stdout);
         std::fputc('\n', stdout);
         std::fflush(stdout);
-        archive_read_data_skip(in.get());
+        archive_read_data_skip(in);
     }
-    archive_read_close(in.get());
+    archive_read_close(in);
     return 0;
 }
 
@@ -181,12 +223,14 @@ int Extractor::Extract()
 
     // Declared first so that the reader is released before the writer.
     WriteHandle out;
-    ReadHandle in(archive_read_new());
+    PackageReader reader;
+    reader.in.reset(archive_read_new());
     out.reset(archive_write_disk_new());
-    if (!in || !out) {
+    if (!reader.in || !out) {
         LOG_MSG(ERROR, "Allocate extractor failed\n");
         return -1;
     }
+    archive* in = reader.in.get();
     // Setting options on a fresh disk writer has nothing that can fail.
     archive_write_disk_set_options(out.get(), kDiskOptions);
 
@@ -194,14 +238,14 @@ int Extractor::Extract()
     // libarchive lacks shows up as a failure to open below.
 #pragma GCC diagnostic push
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
-    archive_read_support_compression_all(in.get());
+    archive_read_support_compression_all(in);
 #pragma GCC diagnostic pop
-    archive_read_support_format_all(in.get());
-    if (!Succeeded(archive_read_open_filename(in.get(), archive_path.c_str_utf8(), kBlockSize))) {
-        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(), ErrorText(in.get()));
+    archive_read_support_format_all(in);
+    if (!Succeeded(OpenPackage(reader, archive_path))) {
+        LOG_MSG(ERROR, "Failed to read file '%s' ('%s')\n", archive_path.c_str(), ErrorText(in));
         return -1;
     }
-    return WriteEntries(in.get(), out.get(), dest_dir, total);
+    return WriteEntries(in, out.get(), dest_dir, total);
 }
 
 int Extractor::copy_data(archive* in, archive* out)
