@@ -32,6 +32,8 @@ struct HostileRow {
     bool rolled_back;                  // the launcher refuses the package, else installs it
     const char* inside;                // a path below the user's bundle the run must create ("" none)
     bool follows_planted_link = false; // the entry below the link lands outside
+    mode_t ui_perm = 0755;             // of the UI executable; 0 leaves it out
+    const char* info = nullptr;        // the version file's text instead of the client's
 };
 
 void PrintTo(const HostileRow& row, std::ostream* os)
@@ -69,8 +71,11 @@ TEST_P(HostilePackage, NothingOutsideTheBundleChanges)
     }
     const std::string ui = "Contents/MacOS/calderix-drive-ui";
     const std::string info = "Contents/Resources/INFO";
-    entries.push_back({PackEntry::File, ui, ReadFile(client + "/" + ui), 0755, {}});
-    entries.push_back({PackEntry::File, info, ReadFile(client + "/" + info), 0644, {}});
+    if (row.ui_perm != 0) {
+        entries.push_back({PackEntry::File, ui, ReadFile(client + "/" + ui), row.ui_perm, {}});
+    }
+    entries.push_back(
+        {PackEntry::File, info, row.info != nullptr ? row.info : ReadFile(client + "/" + info), 0644, {}});
     ASSERT_TRUE(reliability::WritePackage(package_, entries));
     ASSERT_TRUE(WriteFile(bundle_ + "/Contents/Resources/INFO", ReadFile(client + "/" + info)));
 
@@ -136,7 +141,18 @@ INSTANTIATE_TEST_SUITE_P(
                                   {PackEntry::File, "Contents/Resources/hard", "overwritten\n", 0644, {}}},
                                  vpkpack::Error::HardLink,
                                  false,
-                                 "/Contents/Resources/hard"}),
+                                 "/Contents/Resources/hard"},
+                      HostileRow{"no_ui_executable", {}, vpkpack::Error::MissingUi, true, "", false, 0},
+                      HostileRow{
+                          "ui_not_executable", {}, vpkpack::Error::UiNotExecutable, true, "", false, 0644},
+                      HostileRow{"version_file_without_build",
+                                 {},
+                                 vpkpack::Error::MissingBuildVersion,
+                                 true,
+                                 "",
+                                 false,
+                                 0755,
+                                 "[Version]\nmajor_version=2\n"}),
     [](const ::testing::TestParamInfo<HostileRow>& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -28,6 +28,9 @@ static const ustring log_component("service_debug");
 
 namespace {
 
+// The user's copy in the user installation folder.
+const char kUserBundleName[] = "Calderix.app";
+
 // The upgrade tries at most this many backup names before it gives up.
 const int kBackupTries = 10;
 
@@ -91,6 +94,22 @@ bool ReadVersionFile(const ustring& path, VerInfo& info)
     return true;
 }
 
+// Whether the extracted copy at bundle can run: its user-interface
+// executable a regular file with an execute bit, its "INFO" a regular file
+// with a build number. An archive without them extracts fine, and would
+// cost the user their working copy once the backup is gone.
+bool IsCompleteCopy(const ustring& bundle)
+{
+    const ustring ui = bundle + "/" + layout::kUiEntry;
+    struct stat st;
+    if (stat(ui.c_str(), &st) != 0 || !S_ISREG(st.st_mode) || (st.st_mode & 0111) == 0) {
+        return false;
+    }
+    VerInfo info;
+    return ReadVersionFile(bundle + "/" + layout::kInfoEntry, info) &&
+           layout::BuildNumber(info.build_version.c_str()) > 0;
+}
+
 } // namespace
 
 Service::Service() : timeout(0) {}
@@ -103,8 +122,9 @@ void Service::SetTimeout(int value)
 }
 
 // Returns 0 with the package's entries below the user's bundle folder (which
-// it creates, parents included), -1 when that folder cannot be created, or
-// the extractor's result; a failed extraction leaves what it wrote.
+// it creates, parents included), -1 when that folder cannot be created or
+// the extracted copy lacks what it needs to run, or the extractor's result;
+// a failed extraction leaves what it wrote.
 int Service::ExtractPackage()
 {
     const ustring archive_path = GetRootCalderixResourceInstallPath() + "/" + layout::kPackageEntry;
@@ -117,7 +137,12 @@ int Service::ExtractPackage()
     Extractor extractor;
     extractor.dest_dir = destination;
     extractor.archive_path = archive_path;
-    return extractor.Extract();
+    const int result = extractor.Extract();
+    if (result == 0 && !IsCompleteCopy(destination)) {
+        LOG_MSG(ERROR, "extracted copy is incomplete: '%s'\n", destination.c_str());
+        return -1;
+    }
+    return result;
 }
 
 // Fills source_version from the installed copy's "INFO"; without that file
@@ -290,7 +315,7 @@ bool Service::IsInUserBundle(const std::string& path)
     const ustring install = GetUserCalderixInstallPath();
     char real[PATH_MAX];
     const ustring folder = realpath(install.c_str(), real) != nullptr ? ustring(real) : install;
-    const ustring bundle = folder + "/" + "Calderix.app";
+    const ustring bundle = folder + "/" + kUserBundleName;
     for (int n = -1; n < kBackupTries; ++n) {
         const ustring prefix = (n < 0 ? bundle : GetAppBackupDir(bundle, n)) + "/";
         if (path.compare(0, prefix.length(), prefix.c_str()) == 0) {
@@ -323,7 +348,7 @@ ustring Service::GetUserCalderixInstallPath()
 
 ustring Service::GetUserCalderixAppInstallPath()
 {
-    return GetUserCalderixInstallPath() + "/" + "Calderix.app";
+    return GetUserCalderixInstallPath() + "/" + kUserBundleName;
 }
 
 ustring Service::GetUserCalderixDataInstallPath()
