@@ -23,10 +23,17 @@ struct LockAttempt {
     int handle = -1; // valid only with Acquired; give it back with releaseInstanceLock
 };
 
-// Tries to take the lock file `fileName` in `folder` without waiting. The
-// folder is used only if it is a real folder (not a symlink) owned by the
-// current user, made private as `use` allows. Leaves the lock file on disk.
-LockAttempt tryInstanceLock(const QString& folder, const QString& fileName, FolderUse use);
+enum class LockWait {
+    No,  // another holder gives HeldElsewhere at once
+    Yes, // another holder is waited for, without a time limit
+};
+
+// Tries to take the lock file `fileName` in `folder`, waiting for another
+// holder as `wait` says. The folder is used only if it is a real folder (not
+// a symlink) owned by the current user, made private as `use` allows.
+// Leaves the lock file on disk.
+LockAttempt tryInstanceLock(const QString& folder, const QString& fileName, FolderUse use,
+                            LockWait wait = LockWait::No);
 
 // Drops a lock taken by tryInstanceLock. The lock file stays where it is.
 void releaseInstanceLock(int handle);

@@ -99,21 +99,22 @@ int openLockFile(int folder, const QByteArray& name)
     return fd;
 }
 
-// Takes an exclusive flock on `fd` without waiting. Returns 0, or -1 with errno.
-// flock rather than fcntl locks: it belongs to the open file, so the kernel
-// drops it when the holder dies, however it dies.
-int lockExclusive(int fd)
+// Takes an exclusive flock on `fd`, waiting for another holder as `wait`
+// says. Returns 0, or -1 with errno. flock rather than fcntl locks: it
+// belongs to the open file, so the kernel drops it when the holder dies,
+// however it dies.
+int lockExclusive(int fd, LockWait wait)
 {
     int rc;
     do {
-        rc = ::flock(fd, LOCK_EX | LOCK_NB);
+        rc = ::flock(fd, wait == LockWait::Yes ? LOCK_EX : LOCK_EX | LOCK_NB);
     } while (rc != 0 && errno == EINTR);
     return rc;
 }
 
 } // namespace
 
-LockAttempt tryInstanceLock(const QString& folder, const QString& fileName, FolderUse use)
+LockAttempt tryInstanceLock(const QString& folder, const QString& fileName, FolderUse use, LockWait wait)
 {
     const int dir = openPrivateFolder(QFile::encodeName(folder), use);
     if (dir < 0)
@@ -122,7 +123,7 @@ LockAttempt tryInstanceLock(const QString& folder, const QString& fileName, Fold
     closeKeepingErrno(dir);
     if (fd < 0)
         return {statusFromErrno(errno), -1};
-    if (lockExclusive(fd) != 0) {
+    if (lockExclusive(fd, wait) != 0) {
         closeKeepingErrno(fd);
         return {statusFromErrno(errno), -1};
     }

@@ -1,6 +1,7 @@
 #include "qtsingleapplication.h"
 
 #include "instance_lock_p.h"
+#include "user_service_lock.h"
 
 #include <QCryptographicHash>
 #include <QDir>
@@ -99,6 +100,37 @@ SingleInstanceGuard::State SingleInstanceGuard::claim()
     qWarning(
         "QtSingleApplication: no private folder for the instance lock; a second instance is not refused");
     return State::Unguarded;
+}
+
+UserServiceLock::~UserServiceLock()
+{
+    release();
+}
+
+// The first place that can hold a lock decides, as for the instance: every
+// run of this user walks the same list and so waits on the same file.
+bool UserServiceLock::acquire()
+{
+    if (handle_ >= 0)
+        return true;
+    const unsigned uid = singleapp::currentUserId();
+    const QString fileName = QStringLiteral("calderix-service-%1.lock").arg(uid);
+    for (const LockPlace& place : lockPlaces(uid)) {
+        const singleapp::LockAttempt attempt =
+            singleapp::tryInstanceLock(place.folder, fileName, place.use, singleapp::LockWait::Yes);
+        if (attempt.status == singleapp::LockStatus::Acquired) {
+            handle_ = attempt.handle;
+            return true;
+        }
+    }
+    return false;
+}
+
+void UserServiceLock::release()
+{
+    if (handle_ >= 0)
+        singleapp::releaseInstanceLock(handle_);
+    handle_ = -1;
 }
 
 bool SingleInstanceGuard::isRunning()

@@ -76,4 +76,41 @@ TEST_F(ManyStarts, OneUpgradesAndTheOthersStepAside)
     ExpectUiStartedOnce();
 }
 
+// Two copies of the launcher's bundle (one installed, one on a mounted disk
+// image) started together by one user: each holds the instance of its own
+// executable, yet only one of them may upgrade and start the interface; the
+// other waits and then finds the copy current and the interface running.
+TEST_F(ManyStarts, TwoBundlesOneExtractionOneInterface)
+{
+    SetLevels("service_debug=6\n");
+    PackClient("1201");
+    const std::string second = root_ + "/Volumes/Calderix Drive.app";
+    ASSERT_TRUE(MakeDirs(root_ + "/Volumes") && CopyTree(bundle_, second)) << strerror(errno);
+    const std::string extract = "[INFO] calderix-service(%d): extract package: '";
+    for (int round = 1; round <= 20; ++round) {
+        SCOPED_TRACE("round " + std::to_string(round));
+        TearDown();
+        ASSERT_TRUE(RemoveTree(install_)) << strerror(errno);
+        const pid_t a = StartLauncher("a", Env(home_));
+        const pid_t b =
+            Start({second + "/Contents/MacOS/launcher"}, Env(home_), root_ + "/b.out", root_ + "/b.err");
+        ASSERT_TRUE(a > 0 && b > 0) << strerror(errno);
+        const time_t deadline = time(nullptr) + 60;
+        const ProcessResult ra = Finish(a, "a", deadline);
+        ASSERT_TRUE(ra.exited && ra.exit_code == 0) << ra.err;
+        const ProcessResult rb = Finish(b, "b", deadline);
+        ASSERT_TRUE(rb.exited && rb.exit_code == 0) << rb.err;
+        const std::string log = ReadFile(LogPath());
+        const std::vector<std::string> lines = launchertest::LogLines(log);
+        EXPECT_EQ(std::count_if(lines.begin(), lines.end(),
+                                [&](const std::string& line) { return line.rfind(extract, 0) == 0; }),
+                  1)
+            << log;
+        ExpectUiStartedOnce();
+        if (HasFailure()) {
+            break;
+        }
+    }
+}
+
 } // namespace

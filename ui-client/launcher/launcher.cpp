@@ -8,6 +8,7 @@
 #include "mac/mac-service.h"
 #include "progress-dialog.h"
 #include "strtable.h"
+#include "user_service_lock.h"
 
 #define LOG_SOURCE "launcher"
 #define LOG_COMPONENT log_component
@@ -81,6 +82,13 @@ void Worker::JoinThread()
 void Worker::HandleServicce()
 {
     LOG_MSG(DEBUG, "running\n");
+    // From the decision to the start of the user interface, one run per
+    // user: a launcher of another bundle waits here, and then finds the
+    // copy current and the interface running.
+    UserServiceLock lock;
+    if (!lock.acquire()) {
+        LOG_MSG(WARNING, "no private folder for the service lock, running unguarded\n");
+    }
     service->PreUpgrade();
     if (service->IsNeedUpgrade()) {
         emit sigShowMsg();
@@ -95,6 +103,7 @@ void Worker::HandleServicce()
     }
     service->RemoveAgedFolders();
     service->PostUpgrade();
+    lock.release();
     LOG_MSG(DEBUG, "done\n");
     emit sigServiceDone();
 }
