@@ -1,7 +1,10 @@
 // Start-up of the real launcher binary from an assembled bundle.
 #include <algorithm>
 #include <cstdlib>
+#include <sched.h>
 #include <string>
+#include <sys/mount.h>
+#include <unistd.h>
 
 #include <gtest/gtest.h>
 
@@ -37,6 +40,52 @@ TEST_F(Startup, HomeThatCannotHoldTheLogFolderStillStarts)
     }
     EXPECT_EQ(r.err.find("[DEBUG]"), std::string::npos) << r.err;
 }
+
+struct HomeCase {
+    const char* name;
+    const char* home; // null: unset
+};
+
+class StartupHome : public LauncherFixture, public ::testing::WithParamInterface<HomeCase> {};
+
+// Without a usable HOME the home folder comes from the password database:
+// the run happens as root of a user namespace whose /etc/passwd gives root
+// the fixture's home, and starts from a folder of its own so that a
+// relative HOME would show up there.
+TEST_P(StartupHome, TakesTheHomeFromThePasswordDatabase)
+{
+    const HomeCase& c = GetParam();
+    const std::string passwd = root_ + "/passwd";
+    const std::string start = root_ + "/start";
+    ASSERT_TRUE(WriteFile(passwd, "root:x:0:0:root:" + home_ + ":/bin/sh\n") && MakeDirs(start))
+        << strerror(errno);
+    SetLevels("service_debug=6\n");
+    std::vector<EnvChange> env = Env(home_);
+    env.push_back(c.home != nullptr ? Set("HOME", c.home) : Unset("HOME"));
+
+    const ProcessResult r = testsupport::Run({launcher_}, env, [&passwd, &start] {
+        EnterUserNamespace(CLONE_NEWNS);
+        if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            mount(passwd.c_str(), "/etc/passwd", nullptr, MS_BIND, nullptr) != 0 ||
+            chdir(start.c_str()) != 0) {
+            perror("password database");
+            _exit(127);
+        }
+    });
+    ExpectCleanExit(r);
+    EXPECT_TRUE(Exists(ui_)) << "the copy was not installed in the home of the password database\n" << r.err;
+    EXPECT_NE(ReadFile(LogPath()).find("user installation is ready"), std::string::npos)
+        << ReadFile(LogPath());
+    EXPECT_FALSE(Exists(start + "/" + (c.home != nullptr ? c.home : "") + "/.Calderix"))
+        << "installed below the folder the launcher was started from";
+}
+
+INSTANTIATE_TEST_SUITE_P(Homes, StartupHome,
+                         ::testing::Values(HomeCase{"Unset", nullptr}, HomeCase{"Empty", ""},
+                                           HomeCase{"Relative", "relative/home"}),
+                         [](const ::testing::TestParamInfo<HomeCase>& info) {
+                             return std::string(info.param.name);
+                         });
 
 struct LanguageCase {
     const char* name;

@@ -187,11 +187,13 @@ TEST_P(OddFile, LauncherGoesOnAndTheUserKeepsACopy)
         upgrades ? reliability::Snapshot(ClientBundle("1201")) : reliability::Snapshot(app_);
     ASSERT_TRUE(Plant(kind, PathOf(place)));
 
-    const testsupport::ProcessResult run = Finish(StartLauncher("run", Env(home_)), "run", time(nullptr) + 30);
+    const testsupport::ProcessResult run =
+        Finish(StartLauncher("run", Env(home_)), "run", time(nullptr) + 30);
     ASSERT_TRUE(run.exited) << "the launcher hung and was killed\n" << run.err;
     ExpectCleanExit(run);
     const reliability::Tree after = reliability::Snapshot(app_);
-    EXPECT_EQ(after, expected) << (upgrades ? "the new copy is not the package's:\n" : "the old copy changed:\n")
+    EXPECT_EQ(after, expected) << (upgrades ? "the new copy is not the package's:\n"
+                                            : "the old copy changed:\n")
                                << reliability::Difference(expected, after);
     EXPECT_TRUE(Backups().empty()) << "a backup stayed: " << Backups().front();
     // The user interface refuses to run without its own pid file; the log
@@ -204,15 +206,13 @@ TEST_P(OddFile, LauncherGoesOnAndTheUserKeepsACopy)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, OddFile,
-                         ::testing::Combine(::testing::Values(Kind::Fifo, Kind::Device, Kind::Folder,
-                                                              Kind::LinkLoop, Kind::Huge),
-                                            ::testing::Values(Place::BundleInfo, Place::InstalledInfo,
-                                                              Place::PidFile, Place::LevelFile,
-                                                              Place::LogFile, Place::Package)),
-                         [](const ::testing::TestParamInfo<std::tuple<Kind, Place>>& info) {
-                             return std::string(Name(std::get<0>(info.param))) + "_at_" +
-                                    Name(std::get<1>(info.param));
-                         });
+INSTANTIATE_TEST_SUITE_P(
+    Places, OddFile,
+    ::testing::Combine(::testing::Values(Kind::Fifo, Kind::Device, Kind::Folder, Kind::LinkLoop, Kind::Huge),
+                       ::testing::Values(Place::BundleInfo, Place::InstalledInfo, Place::PidFile,
+                                         Place::LevelFile, Place::LogFile, Place::Package)),
+    [](const ::testing::TestParamInfo<std::tuple<Kind, Place>>& info) {
+        return std::string(Name(std::get<0>(info.param))) + "_at_" + Name(std::get<1>(info.param));
+    });
 
 } // namespace

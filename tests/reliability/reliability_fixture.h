@@ -5,13 +5,13 @@
 #include <archive.h>
 #include <archive_entry.h>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
+#include <ctime>
 #include <dirent.h>
 #include <functional>
 #include <map>
 #include <string>
-#include <csignal>
-#include <ctime>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>

@@ -6,7 +6,6 @@
 #pragma once
 
 #include <csignal>
-#include <fcntl.h>
 #include <filesystem>
 #include <ftw.h>
 #include <functional>
@@ -108,22 +107,7 @@ protected:
     // leaves behind exit with its status.
     static void BelowNamespaceInit()
     {
-        const std::string uid = std::to_string(geteuid());
-        const std::string gid = std::to_string(getegid());
-        if (unshare(CLONE_NEWUSER | CLONE_NEWPID) != 0) {
-            perror("unshare");
-            _exit(127);
-        }
-        for (const auto& [file, text] : {std::pair<const char*, std::string>{"/proc/self/setgroups", "deny"},
-                                         {"/proc/self/uid_map", "0 " + uid + " 1"},
-                                         {"/proc/self/gid_map", "0 " + gid + " 1"}}) {
-            const int fd = open(file, O_WRONLY);
-            if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
-                perror(file);
-                _exit(127);
-            }
-            close(fd);
-        }
+        testsupport::EnterUserNamespace(CLONE_NEWPID);
         // The first child is the namespace's init, the second one the program.
         for (int level = 0; level < 2; ++level) {
             const pid_t child = fork();

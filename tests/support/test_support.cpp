@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <fstream>
 #include <poll.h>
+#include <sched.h>
 #include <sstream>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -315,6 +316,27 @@ int Wait(pid_t pid)
         r = waitpid(pid, &status, 0);
     } while (r < 0 && errno == EINTR);
     return r == pid ? status : -1;
+}
+
+void EnterUserNamespace(int clone_flags)
+{
+    const std::string uid = std::to_string(geteuid());
+    const std::string gid = std::to_string(getegid());
+    if (unshare(CLONE_NEWUSER | clone_flags) != 0) {
+        perror("unshare");
+        _exit(127);
+    }
+    const std::pair<const char*, std::string> maps[] = {{"/proc/self/setgroups", "deny"},
+                                                        {"/proc/self/uid_map", "0 " + uid + " 1"},
+                                                        {"/proc/self/gid_map", "0 " + gid + " 1"}};
+    for (const auto& [file, text] : maps) {
+        const int fd = open(file, O_WRONLY | O_CLOEXEC);
+        if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
+            perror(file);
+            _exit(127);
+        }
+        close(fd);
+    }
 }
 
 std::vector<std::string> Lines(const std::string& text)

@@ -68,6 +68,11 @@ pid_t Start(const std::vector<std::string>& argv, const std::vector<EnvChange>& 
 // Waits for a child started with Start(); returns the raw wait status or -1.
 int Wait(pid_t pid);
 
+// For a child about to exec: moves it into a new user namespace (with the
+// further namespaces of clone_flags) in which it is root, mapped to the
+// user it was. On failure reports why and _exit()s.
+void EnterUserNamespace(int clone_flags);
+
 // Lines of a text, without their line feeds.
 std::vector<std::string> Lines(const std::string& text);
 

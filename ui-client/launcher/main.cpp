@@ -16,6 +16,7 @@
 #include "qtsingleapplication.h"
 #include "strtable.h"
 #include "texts.h"
+#include "user_home.h"
 
 #define LOG_SOURCE "main"
 #define LOG_COMPONENT ustring("launcher_debug")
@@ -34,6 +35,10 @@ QString PluginFolder(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    // Every path of the user's installation hangs off HOME: unset, it would
+    // install below "/", relative, below wherever the launcher was started.
+    // Nothing is logged yet; the failure leaves HOME as it was.
+    platform::EnsureHomeVariable();
     setlocale(LC_ALL, "");
     qInitResources_texts();
 
