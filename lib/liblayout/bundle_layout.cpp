@@ -1,5 +1,6 @@
 #include "bundle_layout.h"
 
+#include <cerrno>
 #include <climits>
 #include <cstdlib>
 
@@ -17,6 +18,13 @@ int BuildNumber(const std::string& text)
         return INT_MIN;
     }
     return static_cast<int>(value);
+}
+
+bool IsBuildNumberInRange(const std::string& text)
+{
+    errno = 0;
+    const long value = std::strtol(text.c_str(), nullptr, 10);
+    return errno != ERANGE && value <= INT_MAX && value >= INT_MIN;
 }
 
 bool IsPlainBuildNumber(const std::string& text, int* build)

@@ -37,6 +37,10 @@ inline constexpr const char* kVersionKeys[] = {"major_version", "minor_version",
 // beyond int saturate at its limits.
 int BuildNumber(const std::string& text);
 
+// False when text begins with a number beyond int, which BuildNumber
+// clamps: the version file holds something no build ever had.
+bool IsBuildNumberInRange(const std::string& text);
+
 // True when text is nothing but a build number that BuildNumber reads as
 // itself and that is above 0: plain decimal digits, at most INT_MAX. Sets
 // *build then; leaves it alone otherwise.

@@ -124,8 +124,14 @@ void MacService::PreUpgrade()
 
 // True when the package's build is newer than the installed one (an empty
 // build counts as 0) or the installed copy has no user-interface executable.
+// A build number beyond int is clamped, with a warning: no build has one.
 bool MacService::IsNeedUpgrade()
 {
+    for (const ustring* build : {&source_version.build_version, &target_version.build_version}) {
+        if (!layout::IsBuildNumberInRange(build->c_str())) {
+            LOG_MSG(WARNING, "build number '%s' is out of range\n", build->c_str());
+        }
+    }
     const int source = layout::BuildNumber(source_version.build_version.c_str());
     const int target = layout::BuildNumber(target_version.build_version.c_str());
     LOG_MSG(DEBUG, "source version = %d, target version = %d\n", source, target);
