@@ -190,17 +190,37 @@ bool RunsForUser(const struct stat& exe)
     return found;
 }
 
+// A fresh file at path for a program's output: 0600, a descriptor of 3 or
+// above, closed on exec. Whatever was at path is removed first rather than
+// cut short, since a program that still holds it would go on writing at
+// its old offset. Returns the descriptor, or -1 when the file cannot be made.
+int CreateOutput(const std::string& path)
+{
+    if (path.empty() || (unlink(path.c_str()) != 0 && errno != ENOENT)) {
+        return -1;
+    }
+    const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600);
+    if (fd < 0 || fd > 2) {
+        return fd;
+    }
+    // The child's 0 to 2 are rearranged from ours, so it must not be one of them.
+    const int high = fcntl(fd, F_DUPFD_CLOEXEC, 3);
+    close(fd);
+    return high;
+}
+
 // The platform hook: starts exe in folder, detached in a session of its
-// own, with a clean slate of signals and nothing of ours open but /dev/null
-// on 0 to 2. Returns 0 once exe has replaced the child, or the errno value
-// of the step that failed.
+// own, with a clean slate of signals, /dev/null as input, output to the
+// descriptor out (to /dev/null when it is -1) and nothing else of ours
+// open. Returns 0 once exe has replaced the child, or the errno value of
+// the step that failed.
 //
 // posix_spawn rather than fork: the child borrows our address space until
 // it execs instead of copying the page tables of every library a Qt
 // process maps, which made the start of the user interface cost the
 // launcher milliseconds. The program stays our child only until we quit a
 // moment later; then it belongs to the system like any other started one.
-int SpawnDetached(const std::string& exe, const std::string& folder)
+int SpawnDetached(const std::string& exe, const std::string& folder, int out)
 {
     posix_spawnattr_t attr;
     posix_spawn_file_actions_t actions;
@@ -224,8 +244,8 @@ int SpawnDetached(const std::string& exe, const std::string& folder)
     error = error != 0 ? error : posix_spawnattr_setsigdefault(&attr, &all);
     error = error != 0 ? error : posix_spawn_file_actions_addchdir_np(&actions, folder.c_str());
     error = error != 0 ? error : posix_spawn_file_actions_addopen(&actions, 0, "/dev/null", O_RDWR, 0);
-    error = error != 0 ? error : posix_spawn_file_actions_adddup2(&actions, 0, 1);
-    error = error != 0 ? error : posix_spawn_file_actions_adddup2(&actions, 0, 2);
+    error = error != 0 ? error : posix_spawn_file_actions_adddup2(&actions, out >= 0 ? out : 0, 1);
+    error = error != 0 ? error : posix_spawn_file_actions_adddup2(&actions, out >= 0 ? out : 0, 2);
     error = error != 0 ? error : posix_spawn_file_actions_addclosefrom_np(&actions, 3);
     if (error == 0) {
         std::vector<char> arg0(exe.begin(), exe.end());
@@ -245,7 +265,7 @@ class LinuxLaunchServices : public LaunchServices {
 public:
     int Unregister(const std::string&) override { return 0; }
 
-    int Open(const std::string& bundle) override
+    int Open(const std::string& bundle, const std::string& output) override
     {
         std::string exe;
         const int r = BundleExecutable(bundle, exe);
@@ -265,7 +285,12 @@ public:
         if (RunsForUser(st)) {
             return 0;
         }
-        return SpawnDetached(exe, bundle + "/Contents/MacOS");
+        const int out = CreateOutput(output);
+        const int spawned = SpawnDetached(exe, bundle + "/Contents/MacOS", out);
+        if (out >= 0) {
+            close(out);
+        }
+        return spawned;
     }
 };
 

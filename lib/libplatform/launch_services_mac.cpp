@@ -25,7 +25,7 @@ public:
 
     // Launch Services starts the bundle, or brings forward the copy that
     // already runs; it tells only whether it accepted the request.
-    int Open(const std::string& bundle) override
+    int Open(const std::string& bundle, const std::string&) override
     {
         return QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(bundle))) ? 0 : -1;
     }

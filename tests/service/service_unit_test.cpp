@@ -111,7 +111,7 @@ TEST_F(ServiceUnit, CopyPathStopsAtTheFirstFailureAndReportsEveryLevel)
 class FakeLaunchServices : public platform::LaunchServices {
 public:
     MOCK_METHOD(int, Unregister, (const std::string& bundle), (override));
-    MOCK_METHOD(int, Open, (const std::string& bundle), (override));
+    MOCK_METHOD(int, Open, (const std::string& bundle, const std::string& output), (override));
 };
 
 // The Linux layer never fails to unregister, so only a fake shows that the
@@ -121,7 +121,7 @@ TEST_F(ServiceUnit, LaunchOpensTheBundleAlsoWhenUnregisteringFails)
     FakeLaunchServices fake;
     ::testing::InSequence order;
     EXPECT_CALL(fake, Unregister(app_)).WillOnce(::testing::Return(1));
-    EXPECT_CALL(fake, Open(app_)).WillOnce(::testing::Return(0));
+    EXPECT_CALL(fake, Open(app_, install_ + "/log/ui.log")).WillOnce(::testing::Return(0));
     MacService service(fake);
     EXPECT_EQ(service.LaunchPerUserBin(), 0);
     const std::string log = ReadFile(Log());
@@ -134,9 +134,11 @@ struct OpenCase {
     const char* name;
     const char* plist;   // CFBundleExecutable; null: no Info.plist
     Strings files;       // in Contents/MacOS: "x*" the demo user interface, "x!" an executable that
-                         // is no program, "x/" a folder, "x" a plain file
+                         // is no program, "x>" a program that writes a line to each output and
+                         // fails, "x/" a folder, "x" a plain file
     const char* started; // the file that runs afterwards; null: none
     int error;
+    const char* output = nullptr; // the output file once the program has ended; null: not looked at
 };
 
 class LinuxOpen : public ServiceUnit, public ::testing::WithParamInterface<OpenCase> {};
@@ -154,22 +156,31 @@ TEST_P(LinuxOpen, StartsTheBundlesExecutableOnceOrSaysWhyNot)
                                   std::string(c.plist) + "</string>\n</dict>\n</plist>\n"));
     }
     for (const std::string& f : c.files) {
-        const std::string path = macos + "/" + f.substr(0, f.find_first_of("*!/"));
+        const std::string path = macos + "/" + f.substr(0, f.find_first_of("*!/>"));
         ASSERT_TRUE(f.back() == '/'   ? MakeDirs(path)
                     : f.back() == '*' ? CopyTree(DEMO_UI_PATH, path)
+                    : f.back() == '>' ? WriteFile(path, "#!/bin/sh\necho out\necho no display >&2\nexit 1\n", 0755)
                                       : WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
             << path << ": " << strerror(errno);
     }
+    const std::string output = root_ + "/ui.log";
+    ASSERT_TRUE(WriteFile(output, "the last start's output\n")) << strerror(errno);
 
-    const int r = platform::SystemLaunchServices().Open(app_);
+    const int r = platform::SystemLaunchServices().Open(app_, output);
     EXPECT_EQ(r, c.error) << "got " << strerror(r) << ", want " << strerror(c.error);
+    for (int i = 0; c.output != nullptr && i < 1000 && ReadFile(output) != c.output; ++i) {
+        usleep(10000);
+    }
+    if (c.output != nullptr) {
+        EXPECT_EQ(ReadFile(output), c.output);
+    }
     if (c.started == nullptr) {
         EXPECT_TRUE(launchertest::ProcessesBelow(root_).empty()) << "something was started";
         return;
     }
     const pid_t ui = WaitForUi();
     ASSERT_GT(ui, 0) << "nothing came up";
-    EXPECT_EQ(platform::SystemLaunchServices().Open(app_), 0) << "opened again";
+    EXPECT_EQ(platform::SystemLaunchServices().Open(app_, output), 0) << "opened again";
     EXPECT_EQ(launchertest::ProcessesBelow(root_),
               (std::vector<std::pair<pid_t, std::string>>{{ui, macos + "/" + c.started}}))
         << "not started exactly once";
@@ -189,7 +200,8 @@ INSTANTIATE_TEST_SUITE_P(
         OpenCase{"PlistNamesPlainFile", "ui", {"ui"}, nullptr, EACCES},
         OpenCase{"NameLeavesTheFolder", "../ui", {"ui*"}, nullptr, EINVAL},
         // Only the exec itself can tell: the child has to report it.
-        OpenCase{"NotAProgram", "ui", {"ui!"}, nullptr, ENOEXEC}),
+        OpenCase{"NotAProgram", "ui", {"ui!"}, nullptr, ENOEXEC},
+        OpenCase{"ProgramFailsAtOnce", "ui", {"ui>"}, nullptr, 0, "out\nno display\n"}),
     servicetest::RowName<OpenCase>);
 
 } // namespace

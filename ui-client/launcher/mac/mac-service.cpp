@@ -207,7 +207,9 @@ int MacService::HandlePackageUpgrade()
 
 // Has Launch Services forget the user's bundle, then open it. A failed
 // unregistration is logged and does not stop the launch. Returns 0 when
-// the bundle was opened, -1 when not.
+// the bundle was opened, -1 when not. Where the platform lets us choose,
+// the user interface's output goes to "ui.log" beside the launcher's log,
+// so that a user interface that cannot start leaves its reason there.
 int MacService::LaunchPerUserBin()
 {
     const QByteArray bundle = (QDir::homePath() + "/.Calderix/Calderix.app").toUtf8();
@@ -215,7 +217,8 @@ int MacService::LaunchPerUserBin()
     if (launch_services->Unregister(path) != 0) {
         LOG_MSG(ERROR, "Cannot unregister bundle, %s", bundle.constData());
     }
-    return launch_services->Open(path) == 0 ? 0 : -1;
+    const ustring output = GetUserCalderixInstallPath() + "/log/ui.log";
+    return launch_services->Open(path, output.c_str()) == 0 ? 0 : -1;
 }
 
 void MacService::PostUpgrade()
