@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds, assembles the demo bundle and runs the
-# launcher from it against a demo home under build/demo (never your own home
-# unless you ask for it with --home).
+# launcher from a copy of it against a demo home under build/demo (never
+# your own home unless you ask for it with --home).
 #
 #   ./run.sh                 install the demo client, or just start its UI
 #   ./run.sh --upgrade       rebuild the package with the next build number
@@ -41,13 +41,13 @@ fi
 cmake -S . -B build -G Ninja "${config[@]}" >/dev/null
 cmake --build build -j"$(nproc)"
 
-bundle="$PWD/build/demo/Calderix Drive.app"
-levels="$bundle/log/launcher.debug"
-# The demo shows what the launcher does: switch the shipped levels on, once.
-if grep -q '^#launcher_debug=7' "$levels" 2>/dev/null; then
-  sed -i 's/^#\([a-z_]*_debug=\)7/\16/; s/^launcher_debug=6/launcher_debug=7/' "$levels"
-fi
-mkdir -p "$home"
+# The demo runs from a copy of the build's bundle, which stays as built, and
+# shows what the launcher does: the copy's levels are switched on.
+bundle="$PWD/build/demo/run/Calderix Drive.app"
+rm -rf "$bundle"
+mkdir -p "$(dirname "$bundle")" "$home"
+cp -a "build/demo/Calderix Drive.app" "$bundle"
+sed -i 's/^#\([a-z_]*_debug=\)7/\16/; s/^launcher_debug=6/launcher_debug=7/' "$bundle/log/launcher.debug"
 
 # A real window when there is a display, offscreen otherwise; a headless demo
 # UI quits by itself after a while instead of lingering unseen.
