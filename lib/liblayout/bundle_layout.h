@@ -1,7 +1,7 @@
 // The layout of a client bundle ("Calderix.app") as the launcher's bundle
-// carries it packed and the user's copy holds it unpacked, and the version
-// file inside it. vpkpack writes what the launcher reads, so both take these
-// names from here.
+// carries it packed and the user's copy holds it unpacked, the version file
+// inside it, and the launcher's own bundle around it. vpkpack writes and
+// checks what the launcher reads, so both take these names from here.
 #pragma once
 
 #include <string>
@@ -24,6 +24,12 @@ inline constexpr char kUiEntry[] = CALDERIX_BUNDLE_MACOS "/calderix-drive-ui";
 // Relative to the resources folder.
 inline constexpr char kInfoName[] = "INFO";
 inline constexpr char kPackageEntry[] = "package/calderix.vpk";
+
+// The launcher's own bundle ("Calderix Drive.app") carries the client's
+// package and its version file in its resources folder, as named above, and:
+inline constexpr char kIconEntry[] = "images/ico_72_calderix.png";      // relative to the resources folder
+inline constexpr char kPluginsFolder[] = "Contents/Frameworks/plugins"; // the only Qt plug-ins it loads
+inline constexpr char kLevelFileEntry[] = "log/launcher.debug";         // its log levels
 
 // The version file is INI text: one section, four keys, all optional.
 inline constexpr char kVersionSection[] = "Version";

@@ -308,6 +308,79 @@ INSTANTIATE_TEST_SUITE_P(
                       CheckRefusal{"ui_not_right_before_info", {kLate}, Error::OutOfOrder, kUi, 1}),
     servicetest::RowName<CheckRefusal>);
 
+// --- launcher bundles ---
+
+struct BundleRefusal {
+    const char* name;
+    const char* change; // a shell command run in the launcher bundle; empty: none
+    Error error;
+    const char* entry; // "{P}" stands for the package's path
+};
+
+class BundleCheckTest : public PackTest, public ::testing::WithParamInterface<BundleRefusal> {};
+
+// A launcher bundle around the fixture's client (build 1201), then changed.
+TEST_P(BundleCheckTest, RefusesNamingTheFileOrPasses)
+{
+    const BundleRefusal& row = GetParam();
+    const std::string launcher = tmp_ / "Calderix Drive.app";
+    const std::string package = launcher + "/Contents/Resources/package/calderix.vpk";
+    vpkpack::PackOptions options;
+    options.info_out = launcher + "/Contents/Resources/INFO";
+    for (const char* folder : {"/Contents/MacOS", "/Contents/Resources/package", "/Contents/Resources/images",
+                               "/Contents/Frameworks/plugins/platforms"}) {
+        ASSERT_TRUE(testsupport::MakeDirs(launcher + folder)) << std::strerror(errno);
+    }
+    ASSERT_TRUE(vpkpack::Pack(bundle_, package, options).ok());
+    ASSERT_TRUE(
+        WriteFile(launcher + "/Contents/Info.plist",
+                  "<?xml version=\"1.0\"?>\n<plist version=\"1.0\"><dict><key>CFBundleExecutable</key>"
+                  "<string>launcher</string><key>CFBundleVersion</key><string>1201</string></dict>"
+                  "</plist>\n") &&
+        WriteFile(launcher + "/Contents/MacOS/launcher", "program", 0755) &&
+        WriteFile(launcher + "/Contents/Resources/images/ico_72_calderix.png", "icon") &&
+        WriteFile(launcher + "/Contents/Frameworks/plugins/platforms/libqoffscreen.so", "plug-in"))
+        << std::strerror(errno);
+    const testsupport::ProcessResult build =
+        testsupport::Run({VPKPACK_BIN, "--print-build", launcher + "/Contents/Resources/INFO"});
+    EXPECT_EQ(build.out, "1201\n") << build.err;
+    const testsupport::ProcessResult change =
+        testsupport::Run({"/bin/sh", "-ec", std::string("cd \"$0\"; ") + row.change, launcher});
+    ASSERT_EQ(change.exit_code, 0) << row.change << ": " << change.err;
+
+    const vpkpack::Status status = vpkpack::CheckBundle(launcher);
+    EXPECT_EQ(static_cast<int>(row.error), static_cast<int>(status.error)) << status.Message();
+    EXPECT_EQ(std::string(row.entry) == "{P}" ? package : row.entry, status.entry) << status.Message();
+    const testsupport::ProcessResult cli = testsupport::Run({VPKPACK_BIN, "--check-bundle", launcher});
+    EXPECT_EQ(status.ok() ? 0 : 1, cli.exit_code) << cli.err;
+    EXPECT_EQ(status.ok() ? "" : "vpkpack: " + status.Message() + "\n", cli.err);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Bundles, BundleCheckTest,
+    ::testing::Values(
+        BundleRefusal{"complete", "", Error::None, ""},
+        BundleRefusal{"launcher_not_executable", "chmod 644 Contents/MacOS/launcher", Error::NotExecutable,
+                      "Contents/MacOS/launcher"},
+        BundleRefusal{"plist_names_another_launcher", "sed -i s/launcher/starter/ Contents/Info.plist",
+                      Error::NotFound, "Contents/MacOS/starter"},
+        BundleRefusal{"plist_with_another_build", "sed -i s/1201/1200/ Contents/Info.plist",
+                      Error::BuildMismatch, kPlistName},
+        BundleRefusal{"info_with_another_build",
+                      "sed -i s/1201/1202/ Contents/Info.plist Contents/Resources/INFO", Error::BuildMismatch,
+                      kInfoName},
+        BundleRefusal{"no_platform_plugin", "rm Contents/Frameworks/plugins/platforms/*",
+                      Error::NoPlatformPlugin, "Contents/Frameworks/plugins/platforms"},
+        BundleRefusal{"no_icon", "rm -r Contents/Resources/images", Error::NotFound,
+                      "Contents/Resources/images/ico_72_calderix.png"},
+        BundleRefusal{"no_package", "rm Contents/Resources/package/calderix.vpk", Error::NotFound, "{P}"},
+        BundleRefusal{"package_cut_short", "truncate -s 100 Contents/Resources/package/calderix.vpk",
+                      Error::ArchiveError, "{P}"},
+        BundleRefusal{
+            "package_of_nothing", "mkdir e; bsdtar -cf Contents/Resources/package/calderix.vpk -C e .",
+            Error::MissingInfo, "Contents/Resources/package/calderix.vpk: Contents/Resources/INFO"}),
+    servicetest::RowName<BundleRefusal>);
+
 // --- what a package holds ---
 
 TEST_F(PackTest, EntriesFollowTheTreeWithUiAndInfoLast)

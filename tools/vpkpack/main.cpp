@@ -13,7 +13,9 @@ namespace {
 
 const char kUsage[] =
     "usage: vpkpack [--format tar.zst|zip|tar.gz|tar.xz] [--info-out FILE] BUNDLE_DIR OUTPUT\n"
-    "       vpkpack --check PACKAGE\n";
+    "       vpkpack --check PACKAGE\n"
+    "       vpkpack --check-bundle LAUNCHER_BUNDLE\n"
+    "       vpkpack --print-build INFO\n";
 
 enum ExitCode { kOk = 0, kFailed = 1, kUsageError = 2 };
 
@@ -77,6 +79,8 @@ int main(int argc, char** argv)
     const std::vector<std::string> args(argv + 1, argv + argc);
     vpkpack::PackOptions options;
     std::string check;
+    std::string check_bundle;
+    std::string print_build;
     std::vector<std::string> operands;
     for (size_t i = 0; i < args.size(); ++i) {
         const std::string& arg = args[i];
@@ -94,11 +98,21 @@ int main(int argc, char** argv)
                 return UsageError("--info-out needs a file name");
             }
             options.info_out = value;
+        } else if (arg.compare(0, 14, "--check-bundle") == 0) {
+            if (!TakeValue(args, &i, "--check-bundle", &value) || value.empty()) {
+                return UsageError("--check-bundle needs a launcher bundle");
+            }
+            check_bundle = value;
         } else if (arg.compare(0, 7, "--check") == 0) {
             if (!TakeValue(args, &i, "--check", &value) || value.empty()) {
                 return UsageError("--check needs a package");
             }
             check = value;
+        } else if (arg.compare(0, 13, "--print-build") == 0) {
+            if (!TakeValue(args, &i, "--print-build", &value) || value.empty()) {
+                return UsageError("--print-build needs a version file");
+            }
+            print_build = value;
         } else if (arg == "--") {
             operands.insert(operands.end(), args.begin() + static_cast<long>(i) + 1, args.end());
             break;
@@ -110,6 +124,29 @@ int main(int argc, char** argv)
     }
 
     vpkpack::PackageSummary summary;
+    if (!print_build.empty()) {
+        if (!operands.empty() || !check.empty()) {
+            return UsageError("--print-build takes no other operands");
+        }
+        const vpkpack::Status status = vpkpack::ReadVersionFile(print_build, &summary.version);
+        if (!status.ok()) {
+            return Failed(status);
+        }
+        std::printf("%ld\n", summary.version.build);
+        return kOk;
+    }
+    if (!check_bundle.empty()) {
+        if (!operands.empty() || !check.empty()) {
+            return UsageError("--check-bundle takes no other operands");
+        }
+        const vpkpack::Status status = vpkpack::CheckBundle(check_bundle, &summary);
+        if (!status.ok()) {
+            return Failed(status);
+        }
+        std::printf("vpkpack: '%s' is a valid launcher bundle of build %ld (package of %d entries)\n",
+                    check_bundle.c_str(), summary.version.build, summary.entries);
+        return kOk;
+    }
     if (!check.empty()) {
         if (!operands.empty()) {
             return UsageError("--check takes no other operands");

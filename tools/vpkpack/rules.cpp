@@ -197,7 +197,7 @@ Status UiEntryFromPlist(const std::string& plist, bool present, std::string* ui_
 {
     std::string name;
     if (present) {
-        Status status = ReadBundleExecutable(plist, &name);
+        Status status = ReadPlistString(plist, "CFBundleExecutable", &name);
         if (!status.ok()) {
             return status;
         }

@@ -99,7 +99,7 @@ Status FormatVersionFile(const VersionInfo& info, std::string* data)
     return {};
 }
 
-Status ReadBundleExecutable(const std::string& plist, std::string* name)
+Status ReadPlistString(const std::string& plist, const char* key, std::string* value)
 {
     if (plist.compare(0, 6, "bplist") == 0) {
         return Refuse(Error::BadInfoPlist, kPlistEntry, "binary property list; write it in XML form");
@@ -119,20 +119,20 @@ Status ReadBundleExecutable(const std::string& plist, std::string* name)
             xml.skipCurrentElement();
             continue;
         }
-        const QString key = xml.readElementText();
+        const QString name = xml.readElementText();
         if (!xml.readNextStartElement()) {
             break;
         }
-        if (key != QLatin1String("CFBundleExecutable")) {
+        if (name != QLatin1String(key)) {
             xml.skipCurrentElement();
             continue;
         }
         if (xml.name() != QLatin1String("string")) {
-            return Refuse(Error::BadInfoPlist, kPlistEntry, "CFBundleExecutable is not a <string>");
+            return Refuse(Error::BadInfoPlist, kPlistEntry, std::string(key) + " is not a <string>");
         }
         found = xml.readElementText().toStdString();
         if (found.empty()) {
-            return Refuse(Error::BadInfoPlist, kPlistEntry, "CFBundleExecutable is empty");
+            return Refuse(Error::BadInfoPlist, kPlistEntry, std::string(key) + " is empty");
         }
     }
     // A list cut short after the dictionary is still a broken list.
@@ -143,7 +143,7 @@ Status ReadBundleExecutable(const std::string& plist, std::string* name)
         return Refuse(Error::BadInfoPlist, kPlistEntry,
                       xml.errorString().toStdString() + " at line " + std::to_string(xml.lineNumber()));
     }
-    *name = found;
+    *value = found;
     return {};
 }
 

@@ -100,6 +100,12 @@ const char* Reason(Error error)
         return "not a regular file";
     case Error::OutOfOrder:
         return "entry out of order";
+    case Error::NotExecutable:
+        return "not an executable file";
+    case Error::NoPlatformPlugin:
+        return "no Qt platform plug-in";
+    case Error::BuildMismatch:
+        return "build numbers differ";
     }
     return "unknown error";
 }
@@ -550,6 +556,17 @@ Status Check(const std::string& package, PackageSummary* summary)
     if (status.ok() && summary != nullptr) {
         found.entries = headers;
         *summary = found;
+    }
+    return status;
+}
+
+Status ReadVersionFile(const std::string& path, VersionInfo* info)
+{
+    std::string data;
+    Status status = platform::ReadSmallFile(path, path, kSmallFileLimit, &data);
+    if (status.ok()) {
+        status = ParseVersionFile(data, info);
+        status.entry = path;
     }
     return status;
 }

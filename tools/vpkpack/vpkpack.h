@@ -57,6 +57,10 @@ enum class Error {
     UiNotExecutable,
     NotRegularFile,
     OutOfOrder,
+    // A launcher bundle's own files.
+    NotExecutable,
+    NoPlatformPlugin,
+    BuildMismatch,
 };
 
 struct Status {
@@ -103,5 +107,15 @@ Status Pack(const std::string& bundle_dir, const std::string& output, const Pack
 // Reads the whole package, verifying its data, and applies the rules that
 // Pack applies plus the order of the last two entries. Touches nothing.
 Status Check(const std::string& package, PackageSummary* summary = nullptr);
+
+// Checks a launcher bundle ("Calderix Drive.app"): its property list names
+// an executable in Contents/MacOS and carries the build as CFBundleVersion,
+// its version file, icon and platform plug-ins are there, its package passes
+// Check, and the version file's build is the package's. Touches nothing.
+Status CheckBundle(const std::string& bundle, PackageSummary* summary = nullptr);
+
+// The [Version] values of the version file at path, refused as a bundle's
+// would be when packing (no build_version, or not a number above 0).
+Status ReadVersionFile(const std::string& path, VersionInfo* info);
 
 } // namespace vpkpack

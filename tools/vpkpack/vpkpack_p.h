@@ -63,8 +63,9 @@ Status CheckOrder(const std::vector<Entry>& entries, const std::string& ui_entry
 Status ParseVersionFile(const std::string& data, VersionInfo* info);
 // An INI text with the [Version] values of info, as QSettings writes it.
 Status FormatVersionFile(const VersionInfo& info, std::string* data);
-// CFBundleExecutable of an XML property list; empty when the key is absent.
-Status ReadBundleExecutable(const std::string& plist, std::string* name);
+// The <string> value of key in an XML property list; empty when the key is
+// absent. Refused when the list is not XML or the value is no string or empty.
+Status ReadPlistString(const std::string& plist, const char* key, std::string* value);
 
 // --- platform hooks (platform_unix.cpp) ---
 

@@ -10,6 +10,7 @@
 #include <QTranslator>
 
 #include "KorvaneLocale.h"
+#include "bundle_layout.h"
 #include "calderix-service.h"
 #include "launcher.h"
 #include "log.h"
@@ -28,7 +29,7 @@ namespace {
 QString PluginFolder(int argc, char** argv)
 {
     const QString exe = (argc > 0 && argv[0] != nullptr) ? QString::fromUtf8(argv[0]) : QString();
-    return QDir::cleanPath(exe + "/../../Frameworks/plugins");
+    return QDir::cleanPath(exe + "/../../../" + layout::kPluginsFolder);
 }
 
 } // namespace
@@ -49,7 +50,7 @@ int main(int argc, char** argv)
 
     QtSingleApplication app(argc, argv, true);
 
-    const ustring level_file = Service::GetRootCalderixInstallPath() + "/log/launcher.debug";
+    const ustring level_file = Service::GetRootCalderixInstallPath() + "/" + layout::kLevelFileEntry;
     const ustring log_dir = Service::GetUserCalderixInstallPath() + "/log";
     // Without a log folder the logger keeps writing to standard error.
     if (QDir().mkpath(QString::fromUtf8(log_dir.c_str()))) {

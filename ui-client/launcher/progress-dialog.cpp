@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QString>
 
+#include "bundle_layout.h"
 #include "calderix-service.h"
 #include "strtable.h"
 
@@ -18,8 +19,8 @@ const char kStyleSheet[] = " QProgressDialog { background-color: WhiteSmoke; \n 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     const QFont font(QStringLiteral("Arial"));
-    const QString icon_path = QString::fromUtf8(Service::GetRootCalderixResourceInstallPath().c_str()) +
-                              "/images/ico_72_calderix.png";
+    const QString icon_path =
+        QString::fromUtf8((Service::GetRootCalderixResourceInstallPath() + "/" + layout::kIconEntry).c_str());
 
     setWindowTitle(StrTable::LoadStr(StrTable::kStrAppName));
     setWindowIcon(QIcon(icon_path));
