@@ -11,6 +11,7 @@ default_packages=(
   libqt5svg5
   libarchive-dev libarchive-tools libicu-dev zstd libzstd-dev
   libgtest-dev libgmock-dev libbenchmark-dev valgrind
+  patchelf
   xvfb xauth x11-utils
   python3
   clang libclang-rt-14-dev

@@ -100,8 +100,8 @@ protected:
         root_ = real;
         bundle_ = root_ + "/Calderix Drive.app";
         ASSERT_TRUE(testsupport::CopyTree(DEMO_BUNDLE, bundle_)) << DEMO_BUNDLE << ": " << strerror(errno);
-        // A developer may have switched levels on in the demo bundle; every
-        // test starts from the defaults and sets what it needs.
+        // Every test starts without a level file, at the default levels,
+        // and writes the one it needs.
         ASSERT_TRUE(testsupport::RemoveTree(LevelFile())) << LevelFile() << ": " << strerror(errno);
         launcher_ = bundle_ + "/Contents/MacOS/launcher";
         home_ = root_ + "/home";

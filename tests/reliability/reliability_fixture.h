@@ -9,9 +9,12 @@
 #include <cstring>
 #include <ctime>
 #include <dirent.h>
+#include <fstream>
 #include <functional>
 #include <map>
+#include <sched.h>
 #include <string>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -144,6 +147,34 @@ inline ::testing::AssertionResult WritePackage(const std::string& path, const st
         return ::testing::AssertionFailure() << path << ": " << error;
     }
     return ::testing::AssertionSuccess();
+}
+
+// This process, and with it every launcher and user interface it starts,
+// gets mounts of its own: a small file system can then stand in for
+// ~/.Calderix, files can be hidden, the test sees what they see, and the
+// machine sees none of it. Without root a user namespace grants the mounts.
+// Once per process; empty when done, else why not.
+inline std::string EnterPrivateMounts()
+{
+    static const std::string refused = []() -> std::string {
+        const std::string uid = std::to_string(geteuid()), gid = std::to_string(getegid());
+        const auto put = [](const char* path, const std::string& text) {
+            std::ofstream file(path);
+            return static_cast<bool>(file << text << std::flush);
+        };
+        if (geteuid() == 0
+                ? unshare(CLONE_NEWNS) != 0
+                : unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0 || !put("/proc/self/setgroups", "deny") ||
+                      !put("/proc/self/uid_map", uid + " " + uid + " 1") ||
+                      !put("/proc/self/gid_map", gid + " " + gid + " 1")) {
+            return std::string("user or mount namespace: ") + strerror(errno);
+        }
+        if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
+            return std::string("private propagation: ") + strerror(errno);
+        }
+        return {};
+    }();
+    return refused;
 }
 
 } // namespace reliability

@@ -5,11 +5,9 @@
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
-#include <fstream>
 #include <ftw.h>
 #include <functional>
 #include <grp.h>
-#include <sched.h>
 #include <string>
 #include <sys/mount.h>
 #include <sys/resource.h>
@@ -54,34 +52,6 @@ int GiveToNobody(const char* path, const struct stat*, int, FTW*)
     return lchown(path, kNobody, kNobody);
 }
 
-// This process, and with it every launcher and user interface it starts,
-// gets mounts of its own: a small file system can then stand in for
-// ~/.Calderix, the test sees what they see, and the machine sees none of
-// it. Without root a user namespace grants the mounts. Once per process;
-// empty when done, else why not.
-std::string EnterPrivateMounts()
-{
-    static const std::string refused = []() -> std::string {
-        const std::string uid = std::to_string(geteuid()), gid = std::to_string(getegid());
-        const auto put = [](const char* path, const std::string& text) {
-            std::ofstream file(path);
-            return static_cast<bool>(file << text << std::flush);
-        };
-        if (geteuid() == 0
-                ? unshare(CLONE_NEWNS) != 0
-                : unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0 || !put("/proc/self/setgroups", "deny") ||
-                      !put("/proc/self/uid_map", uid + " " + uid + " 1") ||
-                      !put("/proc/self/gid_map", gid + " " + gid + " 1")) {
-            return std::string("user or mount namespace: ") + strerror(errno);
-        }
-        if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0) {
-            return std::string("private propagation: ") + strerror(errno);
-        }
-        return {};
-    }();
-    return refused;
-}
-
 class WriteError : public ReliabilityFixture, public ::testing::WithParamInterface<WriteErrorRow> {
 protected:
     void TearDown() override
@@ -97,7 +67,7 @@ protected:
     // that the failure's lines are not lost to the full one.
     void InstallOnSmallFileSystem()
     {
-        const std::string refused = EnterPrivateMounts();
+        const std::string refused = reliability::EnterPrivateMounts();
         if (!refused.empty()) {
             GTEST_SKIP() << "no mount namespace of our own for a small ~/.Calderix: " << refused;
         }
