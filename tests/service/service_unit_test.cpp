@@ -159,8 +159,9 @@ TEST_P(LinuxOpen, StartsTheBundlesExecutableOnceOrSaysWhyNot)
         const std::string path = macos + "/" + f.substr(0, f.find_first_of("*!/>"));
         ASSERT_TRUE(f.back() == '/'   ? MakeDirs(path)
                     : f.back() == '*' ? CopyTree(DEMO_UI_PATH, path)
-                    : f.back() == '>' ? WriteFile(path, "#!/bin/sh\necho out\necho no display >&2\nexit 1\n", 0755)
-                                      : WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
+                    : f.back() == '>'
+                        ? WriteFile(path, "#!/bin/sh\necho out\necho no display >&2\nexit 1\n", 0755)
+                        : WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
             << path << ": " << strerror(errno);
     }
     const std::string output = root_ + "/ui.log";
