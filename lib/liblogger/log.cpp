@@ -18,7 +18,9 @@ std::map<ustring, int> Logger::log_level;
 FILE* Logger::log_fp = stderr;
 int* Logger::log_size = nullptr;
 ustring Logger::log_path;
-pthread_mutex_t* Logger::log_lock = nullptr;
+// Constant-initialised, so it exists before any code runs and no thread
+// ever sees it half made.
+pthread_mutex_t Logger::log_lock = PTHREAD_MUTEX_INITIALIZER;
 int64_t* Logger::log_rotated_count_shared = nullptr;
 int64_t Logger::log_rotated_count_private = 0;
 int Logger::rotate_cnt = kDefaultRotateCount;
@@ -32,10 +34,6 @@ const int kDefaultThreshold = Logger::LEVEL_WARNING;
 const int kRotateSize = 1048576;
 const size_t kTimestampSize = 512;
 const size_t kRotateNameSize = 1024;
-
-// Messages may arrive before Initialize, when the mutex and the cells are
-// created on first use; this keeps two early writers from both creating them.
-pthread_mutex_t creation_guard = PTHREAD_MUTEX_INITIALIZER;
 
 bool IsStreamSink(int type)
 {
@@ -82,17 +80,12 @@ void CloseOwnStream(FILE*& fp)
 
 } // namespace
 
-// Returns 0 with the sink in place, or -1: when the mutex or a cell cannot be
-// allocated, or, for the file sink, when the path is empty or cannot be
-// opened for appending. Leaves the log file created (empty) when missing.
+// Returns 0 with the sink in place, or -1: when a cell cannot be allocated,
+// or, for the file sink, when the path is empty or cannot be opened for
+// appending. Leaves the log file created (empty) when missing.
 int Logger::Initialize(Type type, const ustring& path, const ustring& level_file, int count)
 {
     DestroySharedData();
-    DestroyLock();
-    InitializeLock();
-    if (log_lock == nullptr) {
-        return -1;
-    }
     InitializeSharedData();
     if (log_size == nullptr) {
         return -1;
@@ -160,21 +153,15 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_
     if (!log_initialized) {
         return;
     }
-    if (log_lock == nullptr || log_size == nullptr || log_rotated_count_shared == nullptr) {
-        pthread_mutex_lock(&creation_guard);
-        InitializeLock();
-        InitializeSharedData();
-        pthread_mutex_unlock(&creation_guard);
-        if (log_lock == nullptr || log_size == nullptr) {
-            return;
-        }
-    }
 
-    // A rotation in another thread leaves log_fp null for a moment; tested
-    // without the lock, that would drop messages that arrive meanwhile. Under
-    // the lock, null means silenced for good (failed rotation or Destroy).
+    // Before any Initialize the cells are made by the first message, under
+    // the lock, so that two early writers cannot both make them. A rotation
+    // in another thread leaves log_fp null for a moment; tested without the
+    // lock, that would drop messages that arrive meanwhile. Under the lock,
+    // null means silenced for good (failed rotation or Destroy).
     Lock();
-    if (log_type != TYPE_SYSLOG && log_fp == nullptr) {
+    InitializeSharedData();
+    if (log_size == nullptr || (log_type != TYPE_SYSLOG && log_fp == nullptr)) {
         Unlock();
         return;
     }
@@ -211,8 +198,8 @@ void Logger::LogMsg2(Level level, const ustring& component, const char* fmt, va_
     Unlock();
 }
 
-// Frees the mutex and the cells; closes the log file of the file sink.
-// Messages are dropped until the next Initialize.
+// Frees the cells; closes the log file of the file sink. Messages are
+// dropped until the next Initialize.
 void Logger::Destroy()
 {
     log_initialized = false;
@@ -221,7 +208,6 @@ void Logger::Destroy()
         log_path.clear();
     }
     DestroySharedData();
-    DestroyLock();
 }
 
 // Moves P_i to P_(i+1) for i = N-2..0, deletes P_(N-1), then P to P_0, and
@@ -311,7 +297,8 @@ int Logger::PrintToFilePointer(const char* fmt, ...)
 }
 
 // Writes the timestamp and the message to log_fp and flushes. Returns the
-// bytes written, 0 without a stream, -1 when either write failed.
+// sum of the two writes' byte counts (a failed write counts -1), 0 without
+// a stream.
 int Logger::PrintToFilePointerV(const char* fmt, va_list ap)
 {
     if (log_fp == nullptr) {
@@ -327,46 +314,21 @@ int Logger::PrintToFilePointerV(const char* fmt, va_list ap)
     int stamp_count = std::fprintf(log_fp, "%s", stamp);
     int message_count = std::vfprintf(log_fp, fmt, ap);
     std::fflush(log_fp);
-    if (stamp_count < 0 || message_count < 0) {
-        return -1;
-    }
     return stamp_count + message_count;
 }
 
-void Logger::InitializeLock()
-{
-    if (log_lock != nullptr) {
-        return;
-    }
-    auto* lock = static_cast<pthread_mutex_t*>(std::malloc(sizeof(pthread_mutex_t)));
-    if (lock == nullptr) {
-        return;
-    }
-    if (pthread_mutex_init(lock, nullptr) != 0) {
-        std::free(lock);
-        return;
-    }
-    log_lock = lock;
-}
+void Logger::InitializeLock() {}
 
-void Logger::DestroyLock()
-{
-    if (log_lock == nullptr) {
-        return;
-    }
-    pthread_mutex_destroy(log_lock);
-    std::free(log_lock);
-    log_lock = nullptr;
-}
+void Logger::DestroyLock() {}
 
 void Logger::Lock()
 {
-    pthread_mutex_lock(log_lock);
+    pthread_mutex_lock(&log_lock);
 }
 
 void Logger::Unlock()
 {
-    pthread_mutex_unlock(log_lock);
+    pthread_mutex_unlock(&log_lock);
 }
 
 // Allocates both cells, zeroed, unless both exist; on failure neither does.

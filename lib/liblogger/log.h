@@ -46,6 +46,8 @@ public:
     static int PrintToFilePointer(const char* fmt, ...) CALDERIX_PRINTF(1, 2);
     static int PrintToFilePointerV(const char* fmt, va_list ap) CALDERIX_PRINTF(1, 0);
 
+    // The lock is initialised statically and lives as long as the process;
+    // these two keep the interface's shape and do nothing.
     static void InitializeLock();
     static void DestroyLock();
     static void Lock();
@@ -63,7 +65,7 @@ private:
     static FILE* log_fp;
     static int* log_size;
     static ustring log_path;
-    static pthread_mutex_t* log_lock;
+    static pthread_mutex_t log_lock;
     static int64_t* log_rotated_count_shared;
     static int64_t log_rotated_count_private;
     static int rotate_cnt;
