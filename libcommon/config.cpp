@@ -96,11 +96,8 @@ int Config::read(const ustring& path)
             break;
         }
     }
-    // A folder opens fine but fails on the first read (EISDIR): that is an
-    // unreadable file, not an empty one.
-    if (result == 0 && std::ferror(fp)) {
-        result = -1;
-    }
+    // A read error ends the reading like the end of the file: a folder, which
+    // opens fine and fails on the first read, reads as a file without pairs.
     std::fclose(fp);
     return result;
 }

@@ -10,7 +10,8 @@ class Config {
 public:
     // Adds the file's pairs to entries (last occurrence wins). Returns 0,
     // or -1 for an empty path, an unopenable file (entries unchanged) or a
-    // syntax error on any line (entries emptied).
+    // syntax error on any line (entries emptied). A read error ends the
+    // reading like the end of the file.
     int read(const ustring& path);
     // Parses one NUL-terminated line in place (writes NULs into it).
     // Returns 0 with key and value set, 1 for a blank or comment line,

@@ -461,13 +461,12 @@ ustring& ustring::append(const char* s)
 
 // Appends at most n bytes of s, fewer if s ends first. When s is this
 // string's own buffer the count is taken before the buffer may move and the
-// bytes are read from wherever it ends up.
+// bytes are read from wherever it ends up. Appending nothing still fits the
+// buffer to the need, as every append does.
 ustring& ustring::append(const char* s, unsigned long n)
 {
     const bool own = s == data;
     const unsigned long count = own ? (n < data_len ? n : data_len) : strnlen(s, n);
-    if (count == 0)
-        return *this;
     realloc_data(need_for(data_len, count));
     std::memcpy(data + data_len, own ? data : s, count);
     data_len += count;
@@ -494,11 +493,11 @@ ustring& ustring::append(const std::string& s, unsigned long pos, unsigned long 
 }
 
 // Appends n copies of c; a NUL byte would end the text early, so it adds
-// nothing.
+// nothing (the buffer is still fitted to the need).
 ustring& ustring::append(char c, unsigned long n)
 {
-    if (c == 0 || n == 0)
-        return *this;
+    if (c == 0)
+        n = 0;
     realloc_data(need_for(data_len, n));
     std::memset(data + data_len, c, n);
     data_len += n;

@@ -222,6 +222,16 @@ TEST_F(LoggerTest, FailedRotationSilencesLogger)
     EXPECT_EQ("k", ts::ReadFile(Rotated(0) + "/keep"));
 }
 
+// Each write's byte count goes into the sum, a failed one as -1: on a full
+// device the stamp fits the stream's buffer, the long message does not.
+TEST_F(LoggerTest, PrintCountsBothWritesAlsoWhenOneFails)
+{
+    ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, "/dev/full", "", 50))
+        << "/dev/full: " << strerror(errno);
+    EXPECT_EQ(static_cast<int>(kStampLength) - 1,
+              Logger::PrintToFilePointer("%s", std::string(1 << 16, 'x').c_str()));
+}
+
 // Eight threads, each doing a little work between messages so that they
 // reach the logger at scattered moments; enough lines to rotate four times.
 // Every line must be whole and there exactly once, also those logged

@@ -270,23 +270,32 @@ TEST_F(ServiceRun, SequenceUpgradesARunningOldCopy)
     ExpectUiStartedOnce();
 }
 
-TEST_F(ServiceRun, StopDoesNotWaitForAProcessThatIsGone)
+// The pid as written before the number: nothing, or a plus sign.
+class StopGone : public ServiceRun, public ::testing::WithParamInterface<const char*> {};
+
+TEST_P(StopGone, DoesNotWaitForAProcessThatIsGone)
 {
     InstallCopy("1200");
     PackClient("1201");
     const pid_t gone = Start({"/bin/true"});
     ASSERT_GT(gone, 0) << strerror(errno);
     ASSERT_GE(Wait(gone), 0);
-    ASSERT_TRUE(WriteFile(install_ + "/ui.pid", "pid=" + std::to_string(gone) + "\n"));
+    ASSERT_TRUE(
+        WriteFile(install_ + "/ui.pid", "pid=" + std::string(GetParam()) + std::to_string(gone) + "\n"));
 
     ExpectCleanExit(RunTraced());
     EXPECT_EQ(Trace(), Strings{}) << "a process that is gone needs no signal";
     EXPECT_EQ(StopLines(), Strings{});
 }
 
+INSTANTIATE_TEST_SUITE_P(PidTexts, StopGone, ::testing::Values("", "+"),
+                         [](const ::testing::TestParamInfo<const char*>& row) {
+                             return *row.param == '+' ? std::string("PlusSign") : std::string("Plain");
+                         });
+
 struct BadPidCase {
     const char* name;
-    const char* content; // of ui.pid; null: no pid file
+    const char* content; // of ui.pid; null: no pid file; "/": a folder in its place
     const char* line;
 };
 
@@ -300,7 +309,8 @@ TEST_P(StopBadPid, SendsNoSignalAtAll)
     InstallCopy("1200");
     PackClient("1201");
     if (c.content != nullptr) {
-        ASSERT_TRUE(WriteFile(install_ + "/ui.pid", c.content));
+        ASSERT_TRUE(std::string(c.content) == "/" ? MakeDirs(install_ + "/ui.pid")
+                                                  : WriteFile(install_ + "/ui.pid", c.content));
     }
     HandToNobody();
     const pid_t watcher = StartSleeper(true);
@@ -329,7 +339,7 @@ INSTANTIATE_TEST_SUITE_P(
             "[DEBUG] mac/mac-service(%d): pid file '<install>/ui.pid' does not exist, no need to terminate"},
         BadPidCase{"SyntaxError", "pid=\n", kUnreadable}, BadPidCase{"OtherKeysOnly", "port=4711\n", kNoPid},
         BadPidCase{"Zero", "pid=0\n", kNoPid}, BadPidCase{"MinusOne", "pid=-1\n", kNoPid},
-        BadPidCase{"Letters", "pid=abc\n", kNoPid},
+        BadPidCase{"Letters", "pid=abc\n", kNoPid}, BadPidCase{"Folder", "/", kNoPid},
         // Cut to 32 bits this would be -1.
         BadPidCase{"WrapsToMinusOne", "pid=4294967295\n", kNoPid}),
     servicetest::RowName<BadPidCase>);

@@ -139,6 +139,13 @@ TEST(UstringCapacity, ExactFitAndImpossibleSizes)
     EXPECT_EQ(s.capacity(), 11UL) << "need 5 is not below half of 11";
     s = "x";
     EXPECT_EQ(s.capacity(), 2UL);
+    s = "0123456789";
+    s = "";
+    EXPECT_EQ(s.capacity(), 1UL) << "assigning no bytes still fits the buffer to the need";
+    s = "0123456789";
+    s.clear();
+    s.append('x', 0);
+    EXPECT_EQ(s.capacity(), 1UL) << "appending no bytes still fits the buffer to the need";
 
     s = "keep";
     EXPECT_THROW(s.append('x', ULONG_MAX - 2), std::bad_alloc);

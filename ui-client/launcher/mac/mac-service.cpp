@@ -44,13 +44,17 @@ SignalResult SendSignal(pid_t pid, int sig, int& error)
 }
 
 // The process id a pid-file value names: a positive decimal number within
-// the range of process ids, or 0 for any other text. Signalling 0 or a
-// negative id would reach the launcher's own process group or every process
-// of the user, so those never come out of here.
+// the range of process ids, read as atol reads it (blanks and a plus sign
+// may come first), or 0 for any other text. Signalling 0 or a negative id
+// would reach the launcher's own process group or every process of the
+// user, so those never come out of here.
 pid_t ParsePid(const ustring& text)
 {
-    const char* digits = text.c_str();
-    if (text.empty() || strspn(digits, "0123456789") != text.length()) {
+    const char* digits = text.c_str() + strspn(text.c_str(), " \t\n\v\f\r");
+    if (*digits == '+') {
+        ++digits;
+    }
+    if (*digits == '\0' || digits[strspn(digits, "0123456789")] != '\0') {
         return 0;
     }
     errno = 0;
