@@ -41,10 +41,10 @@ Worker::Worker() : Worker(new MacService()) {}
 
 // The service exists before the thread, and the worker moves to the thread
 // last, so that its slot runs there once the thread is started.
-Worker::Worker(Service* owned_service) : QObject(nullptr), service(owned_service)
+Worker::Worker(Service* owned_service)
+    : QObject(nullptr), service(owned_service), handler_thread(std::make_unique<HandlerThread>())
 {
-    handler_thread = new HandlerThread();
-    moveToThread(handler_thread);
+    moveToThread(handler_thread.get());
 }
 
 // Deleting a running QThread aborts the process, so a worker whose thread
@@ -52,12 +52,10 @@ Worker::Worker(Service* owned_service) : QObject(nullptr), service(owned_service
 // first.
 Worker::~Worker()
 {
-    if (handler_thread != nullptr && handler_thread->isRunning()) {
+    if (handler_thread->isRunning()) {
         QuitThread();
         JoinThread();
     }
-    delete handler_thread;
-    delete service;
 }
 
 void Worker::StartThread()
@@ -108,15 +106,13 @@ void Worker::HandleServicce()
     emit sigServiceDone();
 }
 
-Launcher::Launcher() : QObject(nullptr)
+Launcher::Launcher() : QObject(nullptr), worker(std::make_unique<Worker>())
 {
-    worker = new Worker();
     SetUp();
 }
 
-Launcher::Launcher(Service* service) : QObject(nullptr)
+Launcher::Launcher(Service* service) : QObject(nullptr), worker(std::make_unique<Worker>(service))
 {
-    worker = new Worker(service);
     SetUp();
 }
 
@@ -125,27 +121,24 @@ Launcher::Launcher(Service* service) : QObject(nullptr)
 // slots run here, on the main thread, with copies of the arguments.
 void Launcher::SetUp()
 {
-    dialog = new ProcessingProgressDialog();
+    dialog = std::make_unique<ProcessingProgressDialog>();
     // No way to cut a run short, and reaching 100 must not hide the dialog
     // before LaunchDone does.
     dialog->setCancelButton(nullptr);
     dialog->setAutoReset(false);
 
-    connect(this, SIGNAL(sigStart()), worker, SLOT(HandleServicce()));
-    connect(worker, SIGNAL(sigShowMsg()), this, SLOT(ShowMsgBox()));
-    connect(worker, SIGNAL(sigServiceDone()), this, SLOT(LaunchDone()));
-    connect(worker, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
-    connect(worker, SIGNAL(sigSetLabelText(QString)), this, SLOT(SetLabelText(QString)));
-    Notify_Adapter* relay = Notify_Adapter::GetInstance();
-    connect(relay, SIGNAL(sigUpdateProgress(int, int)), this, SLOT(UpdateProgress(int, int)));
-    connect(relay, SIGNAL(sigUpdateDialogText(QString)), this, SLOT(SetLabelText(QString)));
+    const Worker* w = worker.get();
+    connect(this, &Launcher::sigStart, w, &Worker::HandleServicce);
+    connect(w, &Worker::sigShowMsg, this, &Launcher::ShowMsgBox);
+    connect(w, &Worker::sigServiceDone, this, &Launcher::LaunchDone);
+    connect(w, &Worker::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(w, &Worker::sigSetLabelText, this, &Launcher::SetLabelText);
+    const Notify_Adapter* relay = Notify_Adapter::GetInstance();
+    connect(relay, &Notify_Adapter::sigUpdateProgress, this, &Launcher::UpdateProgress);
+    connect(relay, &Notify_Adapter::sigUpdateDialogText, this, &Launcher::SetLabelText);
 }
 
-Launcher::~Launcher()
-{
-    delete worker;
-    delete dialog;
-}
+Launcher::~Launcher() = default;
 
 void Launcher::Run()
 {

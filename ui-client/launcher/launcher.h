@@ -4,6 +4,8 @@
 // dialog.
 #pragma once
 
+#include <memory>
+
 #include <QObject>
 #include <QString>
 #include <QThread>
@@ -69,8 +71,14 @@ private slots:
     void HandleServicce();
 
 private:
-    HandlerThread* handler_thread = nullptr;
-    Service* service = nullptr;
+    // The controller connects its start signal to the private slot.
+    friend class Launcher;
+
+    // Declared in this order so that the thread goes before the service.
+    // Neither can be the worker's child: the thread stays on the main
+    // thread while the worker moves to it.
+    std::unique_ptr<Service> service;
+    std::unique_ptr<HandlerThread> handler_thread;
 };
 
 // Owns the worker and the progress dialog, relays the worker's reports to
@@ -101,6 +109,9 @@ private slots:
 private:
     void SetUp();
 
-    Worker* worker = nullptr;
-    ProcessingProgressDialog* dialog = nullptr;
+    // Declared in this order so that the worker goes before the dialog. A
+    // widget cannot be the child of a plain object, and the worker lives on
+    // its own thread, so neither has a parent.
+    std::unique_ptr<ProcessingProgressDialog> dialog;
+    std::unique_ptr<Worker> worker;
 };

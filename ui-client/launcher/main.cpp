@@ -54,7 +54,8 @@ int main(int argc, char** argv)
     const ustring log_dir = Service::GetUserCalderixInstallPath() + "/log";
     // Without a log folder the logger keeps writing to standard error.
     if (QDir().mkpath(QString::fromUtf8(log_dir.c_str()))) {
-        Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", level_file, Logger::kDefaultRotateCount);
+        Logger::Initialize(Logger::TYPE_FILE, log_dir + "/launcher.log", level_file,
+                           Logger::kDefaultRotateCount);
     }
 
     if (app.isRunning()) {
@@ -72,14 +73,12 @@ int main(int argc, char** argv)
 
     // The start signal is queued to the worker's thread, which Run has
     // already started, so it waits there until the thread picks it up; the
-    // loop ends when the controller quits the application.
-    Launcher* launcher = new Launcher();
-    launcher->Run();
-    launcher->Start();
-    const int result = app.exec();
-    // The controller has joined its thread by now; deleting it takes the
-    // worker, its service and the dialog with it. The translator and then
-    // the application object go when main returns.
-    delete launcher;
-    return result;
+    // loop ends when the controller quits the application. The controller
+    // has joined its thread by then; it goes when main returns, taking the
+    // worker, its service and the dialog with it, and before the translator
+    // and the application object, which were made before it.
+    Launcher launcher;
+    launcher.Run();
+    launcher.Start();
+    return app.exec();
 }
