@@ -14,6 +14,7 @@
 #include "dir_stream.h"
 #include "fs_type.h"
 #include "log.h"
+#include "sync_fs.h"
 #include "tmp_name_gen.h"
 #include "tree_walk.h"
 
@@ -694,6 +695,15 @@ void FSMakeRemovable(const ustring& path)
 {
     GrantOwnFolders grant;
     treewalk::Walk(path.c_str(), grant);
+}
+
+int FSSyncFileSystem(const ustring& path)
+{
+    const int error = platform::SyncFileSystem(path.c_str());
+    if (error == 0)
+        return 0;
+    LOG_MSG(ERROR, "FSSyncFileSystem: '%s': %s (%d)\n", path.c_str(), strerror(error), error);
+    return -1;
 }
 
 int FSMktemp(const ustring& folder, ustring& out)

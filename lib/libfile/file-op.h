@@ -137,6 +137,9 @@ int FSRemove(const ustring& path, bool flag);
 // is not stopped by a folder they cannot write. Failures are left for
 // FSRemove to meet.
 void FSMakeRemovable(const ustring& path);
+// Writes everything the file system holding the folder path has in memory to
+// disk and waits for it: 0, or -1 after logging why.
+int FSSyncFileSystem(const ustring& path);
 // Creates an empty file of mode 0644 with a unique name in folder: 0 with out
 // set to its path, or -1.
 int FSMktemp(const ustring& folder, ustring& out);

@@ -17,6 +17,12 @@
 //                       backup-after    right after that rename
 //                       remove:N        right after the N-th removal below
 //                                       (or of) Calderix.app_tmp
+//                       trace:FILE      kills nothing; appends a line to FILE
+//                                       for every write, rename, remove,
+//                                       unlink, rmdir, fsync, fdatasync and
+//                                       syncfs on a path below (or of) the
+//                                       installation folder: "op path", and
+//                                       "rename from to"
 //
 // The variables are dropped from the environment at load time, so that the
 // processes the launcher starts run unhooked.
@@ -33,21 +39,24 @@
 #include <sys/syscall.h>
 #include <unistd.h>
 
-enum Mode { kNone, kCreate, kStop, kChmod, kBackupBefore, kBackupAfter, kRemove };
+enum Mode { kNone, kCreate, kStop, kChmod, kBackupBefore, kBackupAfter, kRemove, kTrace };
 
 static enum Mode mode = kNone;
 static long target;
 static long seen;
+static char root[PATH_MAX];
 static char app[PATH_MAX];
 static char backup[PATH_MAX];
+static int trace_fd = -1;
 
 __attribute__((constructor)) static void Setup(void)
 {
     const char* at = getenv("CALDERIX_KILL_AT");
-    const char* root = getenv("CALDERIX_KILL_ROOT");
-    if (at != NULL && root != NULL) {
-        snprintf(app, sizeof app, "%s/Calderix.app", root);
-        snprintf(backup, sizeof backup, "%s/Calderix.app_tmp", root);
+    const char* install = getenv("CALDERIX_KILL_ROOT");
+    if (at != NULL && install != NULL) {
+        snprintf(root, sizeof root, "%s", install);
+        snprintf(app, sizeof app, "%s/Calderix.app", install);
+        snprintf(backup, sizeof backup, "%s/Calderix.app_tmp", install);
         if (strncmp(at, "create:", 7) == 0) {
             mode = kCreate;
             target = atol(at + 7);
@@ -64,6 +73,13 @@ __attribute__((constructor)) static void Setup(void)
             mode = kBackupBefore;
         } else if (strcmp(at, "backup-after") == 0) {
             mode = kBackupAfter;
+        } else if (strncmp(at, "trace:", 6) == 0) {
+            mode = kTrace;
+            trace_fd =
+                (int)syscall(SYS_openat, AT_FDCWD, at + 6, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
+            if (trace_fd < 0) {
+                abort();
+            }
         }
     }
     unsetenv("LD_PRELOAD");
@@ -100,6 +116,40 @@ static void Created(int result, const char* path)
         if (chmod(folder, 0555) != 0) {
             abort();
         }
+    }
+}
+
+// In trace mode: one line "op path[ other]" for a path below or of the
+// installation folder, written with the system call itself so that the
+// trace never traces itself.
+static void Trace(const char* op, const char* path, const char* other)
+{
+    const size_t n = strlen(root);
+    if (mode != kTrace || path == NULL || strncmp(path, root, n) != 0 ||
+        (path[n] != '/' && path[n] != '\0')) {
+        return;
+    }
+    char line[3 * PATH_MAX];
+    const int length = snprintf(line, sizeof line, "%s %s%s%s\n", op, path, other != NULL ? " " : "",
+                                other != NULL ? other : "");
+    if (length > 0 && (size_t)length < sizeof line) {
+        syscall(SYS_write, trace_fd, line, (size_t)length);
+    }
+}
+
+// The path an open descriptor names, for tracing; empty when unknown.
+static void TraceFd(const char* op, int fd)
+{
+    if (mode != kTrace) {
+        return;
+    }
+    char link[64];
+    char path[PATH_MAX];
+    snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    const ssize_t n = readlink(link, path, sizeof path - 1);
+    if (n > 0) {
+        path[n] = '\0';
+        Trace(op, path, NULL);
     }
 }
 
@@ -186,6 +236,9 @@ int rename(const char* from, const char* to)
         Die();
     }
     const int r = real(from, to);
+    if (r == 0) {
+        Trace("rename", from, to);
+    }
     if (backing_up && r == 0 && mode == kBackupAfter) {
         Die();
     }
@@ -199,9 +252,91 @@ int remove(const char* path)
         real = (int (*)(const char*))Next("remove");
     }
     const int r = real(path);
+    if (r == 0) {
+        Trace("remove", path, NULL);
+    }
     if (mode == kRemove && r == 0 && (strcmp(path, backup) == 0 || Below(path, backup)) &&
         __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) == target) {
         Die();
+    }
+    return r;
+}
+
+// Looks the real function up once; the macro keeps each wrapper to its
+// own work.
+#define REAL(name)                                                                                           \
+    static __typeof__(&name) real_##name;                                                                    \
+    if (real_##name == NULL) {                                                                               \
+        real_##name = (__typeof__(&name))Next(#name);                                                        \
+    }
+
+ssize_t write(int fd, const void* data, size_t size)
+{
+    REAL(write)
+    const ssize_t r = real_write(fd, data, size);
+    if (r > 0) {
+        TraceFd("write", fd);
+    }
+    return r;
+}
+
+int unlink(const char* path)
+{
+    REAL(unlink)
+    const int r = real_unlink(path);
+    if (r == 0) {
+        Trace("unlink", path, NULL);
+    }
+    return r;
+}
+
+int rmdir(const char* path)
+{
+    REAL(rmdir)
+    const int r = real_rmdir(path);
+    if (r == 0) {
+        Trace("rmdir", path, NULL);
+    }
+    return r;
+}
+
+int unlinkat(int dirfd, const char* path, int flags)
+{
+    REAL(unlinkat)
+    // Traced only for absolute paths, which is how the upgrade names them.
+    const int r = real_unlinkat(dirfd, path, flags);
+    if (r == 0) {
+        Trace((flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path, NULL);
+    }
+    return r;
+}
+
+int fsync(int fd)
+{
+    REAL(fsync)
+    const int r = real_fsync(fd);
+    if (r == 0) {
+        TraceFd("fsync", fd);
+    }
+    return r;
+}
+
+int fdatasync(int fd)
+{
+    REAL(fdatasync)
+    const int r = real_fdatasync(fd);
+    if (r == 0) {
+        TraceFd("fdatasync", fd);
+    }
+    return r;
+}
+
+int syncfs(int fd)
+{
+    REAL(syncfs)
+    const int r = real_syncfs(fd);
+    if (r == 0) {
+        TraceFd("syncfs", fd);
     }
     return r;
 }

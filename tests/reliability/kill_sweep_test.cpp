@@ -56,8 +56,11 @@ protected:
             if (item.second == "dir") {
                 entries.push_back({reliability::PackEntry::Folder, item.first, {}, 0755, {}});
             } else {
-                entries.push_back({reliability::PackEntry::File, item.first, ReadFile(client + "/" + item.first),
-                                   0644, {}});
+                entries.push_back({reliability::PackEntry::File,
+                                   item.first,
+                                   ReadFile(client + "/" + item.first),
+                                   0644,
+                                   {}});
             }
         }
         EXPECT_TRUE(reliability::WritePackage(package_, entries));
@@ -71,7 +74,8 @@ protected:
         const char* asan = getenv("ASAN_OPTIONS");
         // The shim comes ahead of the sanitizer's runtime, which is harmless
         // here: it only forwards calls.
-        env.push_back(Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") + ":verify_asan_link_order=0"));
+        env.push_back(
+            Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") + ":verify_asan_link_order=0"));
         env.push_back(Set("LD_PRELOAD", KILL_SHIM));
         env.push_back(Set("CALDERIX_KILL_AT", at));
         env.push_back(Set("CALDERIX_KILL_ROOT", install_));
@@ -131,8 +135,8 @@ TEST_P(KillSweep, NextStartRepairsTheInstallation)
     if (!complete) {
         EXPECT_TRUE(remaining.empty()) << "a backup stayed although the kill at " << at
                                        << " came before the new copy was complete: " << remaining.front();
-        std::cout << "[kill " << at << " of " << total << "] killed before the new copy was complete (" << left.size()
-                  << " backup(s) after the kill), redone by the next start, no backup left\n";
+        std::cout << "[kill " << at << " of " << total << "] killed before the new copy was complete ("
+                  << left.size() << " backup(s) after the kill), redone by the next start, no backup left\n";
         return;
     }
     std::cout << "[kill " << at << " of " << total << "] copy complete before the kill, " << remaining.size()
@@ -150,17 +154,55 @@ TEST_P(KillSweep, NextStartRepairsTheInstallation)
 
 INSTANTIATE_TEST_SUITE_P(
     Points, KillSweep,
-    ::testing::Values(KillRow{"first_entry", "create", 0, 0, true}, KillRow{"eighth", "create", 1, 0, true},
-                      KillRow{"quarter", "create", 2, 0, true}, KillRow{"three_eighths", "create", 3, 0, true},
-                      KillRow{"half", "create", 4, 0, true}, KillRow{"five_eighths", "create", 5, 0, true},
-                      KillRow{"three_quarters", "create", 6, 0, true}, KillRow{"seven_eighths", "create", 7, 0, true},
-                      KillRow{"ui_created", "create", 8, 1, true}, KillRow{"info_created", "create", 8, 0, true},
-                      KillRow{"before_backup", "backup-before", 0, 0, true},
-                      KillRow{"after_backup", "backup-after", 0, 0, true},
-                      KillRow{"first_backup_removal", "remove", 1, 0, true},
-                      KillRow{"third_backup_removal", "remove", 3, 0, true},
-                      KillRow{"unordered_first_entry", "create", 0, 0, false},
-                      KillRow{"unordered_half", "create", 4, 0, false}),
+    ::testing::Values(
+        KillRow{"first_entry", "create", 0, 0, true}, KillRow{"eighth", "create", 1, 0, true},
+        KillRow{"quarter", "create", 2, 0, true}, KillRow{"three_eighths", "create", 3, 0, true},
+        KillRow{"half", "create", 4, 0, true}, KillRow{"five_eighths", "create", 5, 0, true},
+        KillRow{"three_quarters", "create", 6, 0, true}, KillRow{"seven_eighths", "create", 7, 0, true},
+        KillRow{"ui_created", "create", 8, 1, true}, KillRow{"info_created", "create", 8, 0, true},
+        KillRow{"before_backup", "backup-before", 0, 0, true},
+        KillRow{"after_backup", "backup-after", 0, 0, true},
+        KillRow{"first_backup_removal", "remove", 1, 0, true},
+        KillRow{"third_backup_removal", "remove", 3, 0, true},
+        KillRow{"unordered_first_entry", "create", 0, 0, false},
+        KillRow{"unordered_half", "create", 4, 0, false}),
     [](const ::testing::TestParamInfo<KillRow>& info) { return std::string(info.param.name); });
+
+class DurableUpgrade : public ReliabilityFixture {};
+
+// A power cut right after the backup's first entry is gone must find the
+// new copy on disk: between the last write into it and that removal comes
+// a sync of the installation's file system.
+TEST_F(DurableUpgrade, SyncsTheNewCopyBeforeRemovingTheBackup)
+{
+    InstallCopy("1200");
+    PackClient("1201", kFolders, kFilesPerFolder);
+    const std::string trace = root_ + "/trace";
+    ExpectCleanExit(testsupport::Run({launcher_}, ShimEnv(KILL_SHIM, "trace:" + trace)));
+    const std::vector<std::string> calls = Lines(ReadFile(trace));
+
+    const std::string backup = install_ + "/Calderix.app_tmp";
+    const auto below = [](const std::string& path, const std::string& folder) {
+        return path == folder || path.compare(0, folder.size() + 1, folder + "/") == 0;
+    };
+    size_t last_write = calls.size(), first_removal = calls.size(), sync = calls.size();
+    for (size_t i = 0; i < calls.size() && first_removal == calls.size(); ++i) {
+        const std::string op = calls[i].substr(0, calls[i].find(' '));
+        const std::string path = calls[i].substr(op.size() + 1);
+        if (op == "write" && below(path, app_)) {
+            last_write = i;
+        } else if ((op == "remove" || op == "unlink" || op == "rmdir") && below(path, backup)) {
+            first_removal = i;
+        } else if (op == "syncfs" && below(path, install_) && last_write != calls.size()) {
+            sync = i;
+        }
+    }
+    ASSERT_NE(last_write, calls.size()) << "no write into the new copy was traced";
+    ASSERT_NE(first_removal, calls.size()) << "the backup was never removed";
+    EXPECT_TRUE(sync > last_write && sync < first_removal)
+        << "no sync of the installation between the last write into the new copy (call " << last_write
+        << ") and the first removal inside the backup (call " << first_removal << ": " << calls[first_removal]
+        << ")";
+}
 
 } // namespace

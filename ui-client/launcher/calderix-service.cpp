@@ -171,8 +171,9 @@ void Service::LoadTargetVersion()
             target_version.icon_overlay_version.c_str());
 }
 
-// Returns 0 with the package extracted into app_path and the backup names
-// up to the one used removed; -1 with the old bundle where it was when no
+// Returns 0 with the package extracted into app_path, on disk, and the
+// backup names up to the one used removed (all kept when the new copy could
+// not be synced to disk); -1 with the old bundle where it was when no
 // backup name was free, or moved back after a failed extraction. Without an
 // old bundle a failed extraction leaves what it wrote.
 int Service::PrepareUserEnv()
@@ -212,6 +213,13 @@ int Service::PrepareUserEnv()
     }
 
     LOG_MSG(INFO, "user installation is ready, removing backup app\n");
+    // Until now the new copy may be in memory only: a power cut after the
+    // backup is gone could leave the user with neither. Without that
+    // certainty the backup stays, and the next upgrade clears it.
+    if (!backup.empty() && FSSyncFileSystem(FSParentPath(bundle)) != 0) {
+        LOG_MSG(ERROR, "new installation may not be on disk, keeping backup '%s'\n", backup.c_str());
+        return 0;
+    }
     for (int j = 0; j <= used; ++j) {
         RemoveCopy(GetAppBackupDir(bundle, j));
     }
