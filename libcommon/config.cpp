@@ -1,5 +1,6 @@
 #include "config.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <fcntl.h>
@@ -61,6 +62,11 @@ int Config::read(const ustring& path)
     // be a file of this kind.
     const int fd = platform::OpenRegularFile(path.c_str_utf8(), O_RDONLY);
     struct stat st;
+    if (fd < 0 && errno == EINVAL && stat(path.c_str_utf8(), &st) == 0 && S_ISDIR(st.st_mode)) {
+        // A folder would open, and its first read would fail, which ends the
+        // reading like the end of the file: it holds no pairs.
+        return 0;
+    }
     if (fd >= 0 &&
         (fstat(fd, &st) != 0 || static_cast<unsigned long long>(st.st_size) > platform::kSmallFileLimit)) {
         close(fd);
@@ -96,8 +102,7 @@ int Config::read(const ustring& path)
             break;
         }
     }
-    // A read error ends the reading like the end of the file: a folder, which
-    // opens fine and fails on the first read, reads as a file without pairs.
+    // A read error ends the reading like the end of the file.
     std::fclose(fp);
     return result;
 }

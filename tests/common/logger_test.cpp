@@ -2,6 +2,7 @@
 #include <atomic>
 #include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdarg>
 #include <cstring>
 #include <ctime>
@@ -9,6 +10,7 @@
 #include <fcntl.h>
 #include <set>
 #include <string>
+#include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
 #include <vector>
@@ -222,14 +224,20 @@ TEST_F(LoggerTest, FailedRotationSilencesLogger)
     EXPECT_EQ("k", ts::ReadFile(Rotated(0) + "/keep"));
 }
 
-// Each write's byte count goes into the sum, a failed one as -1: on a full
-// device the stamp fits the stream's buffer, the long message does not.
+// Each write's byte count goes into the sum, a failed one as -1: below a
+// file size limit the stamp fits the stream's buffer, the long message not.
 TEST_F(LoggerTest, PrintCountsBothWritesAlsoWhenOneFails)
 {
-    ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, "/dev/full", "", 50))
-        << "/dev/full: " << strerror(errno);
-    EXPECT_EQ(static_cast<int>(kStampLength) - 1,
-              Logger::PrintToFilePointer("%s", std::string(1 << 16, 'x').c_str()));
+    InitFile(50);
+    struct rlimit saved;
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &saved)) << strerror(errno);
+    const struct rlimit small = {4096, saved.rlim_max};
+    void (*const old_handler)(int) = signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &small)) << strerror(errno);
+    const int count = Logger::PrintToFilePointer("%s", std::string(1 << 16, 'x').c_str());
+    setrlimit(RLIMIT_FSIZE, &saved);
+    signal(SIGXFSZ, old_handler);
+    EXPECT_EQ(static_cast<int>(kStampLength) - 1, count);
 }
 
 // Eight threads, each doing a little work between messages so that they
