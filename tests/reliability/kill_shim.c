@@ -280,63 +280,56 @@ ssize_t write(int fd, const void* data, size_t size)
     return r;
 }
 
+// r, the result of a call on path (or fd), traced as op when it succeeded.
+static int Traced(int r, const char* op, const char* path)
+{
+    if (r == 0) {
+        Trace(op, path, NULL);
+    }
+    return r;
+}
+
+static int TracedFd(int r, const char* op, int fd)
+{
+    if (r == 0) {
+        TraceFd(op, fd);
+    }
+    return r;
+}
+
 int unlink(const char* path)
 {
     REAL(unlink)
-    const int r = real_unlink(path);
-    if (r == 0) {
-        Trace("unlink", path, NULL);
-    }
-    return r;
+    return Traced(real_unlink(path), "unlink", path);
 }
 
 int rmdir(const char* path)
 {
     REAL(rmdir)
-    const int r = real_rmdir(path);
-    if (r == 0) {
-        Trace("rmdir", path, NULL);
-    }
-    return r;
+    return Traced(real_rmdir(path), "rmdir", path);
 }
 
+// Traced only for absolute paths, which is how the upgrade names them.
 int unlinkat(int dirfd, const char* path, int flags)
 {
     REAL(unlinkat)
-    // Traced only for absolute paths, which is how the upgrade names them.
-    const int r = real_unlinkat(dirfd, path, flags);
-    if (r == 0) {
-        Trace((flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path, NULL);
-    }
-    return r;
+    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path);
 }
 
 int fsync(int fd)
 {
     REAL(fsync)
-    const int r = real_fsync(fd);
-    if (r == 0) {
-        TraceFd("fsync", fd);
-    }
-    return r;
+    return TracedFd(real_fsync(fd), "fsync", fd);
 }
 
 int fdatasync(int fd)
 {
     REAL(fdatasync)
-    const int r = real_fdatasync(fd);
-    if (r == 0) {
-        TraceFd("fdatasync", fd);
-    }
-    return r;
+    return TracedFd(real_fdatasync(fd), "fdatasync", fd);
 }
 
 int syncfs(int fd)
 {
     REAL(syncfs)
-    const int r = real_syncfs(fd);
-    if (r == 0) {
-        TraceFd("syncfs", fd);
-    }
-    return r;
+    return TracedFd(real_syncfs(fd), "syncfs", fd);
 }
