@@ -16,6 +16,7 @@
 #include <string>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <vector>
@@ -93,7 +94,7 @@ inline std::string Difference(const Tree& want, const Tree& got)
 
 // One entry of a package written by hand, in the order given.
 struct PackEntry {
-    enum Kind { File, Folder, Symlink, HardLink } kind = File;
+    enum Kind { File, Folder, Symlink, HardLink, Fifo, Device } kind = File;
     std::string name;
     std::string data;   // File
     mode_t perm = 0644; // File
@@ -117,7 +118,12 @@ inline ::testing::AssertionResult WritePackage(const std::string& path, const st
         archive_entry_set_mtime(entry, 1500000000, 0);
         archive_entry_set_filetype(entry, e.kind == PackEntry::Folder    ? AE_IFDIR
                                           : e.kind == PackEntry::Symlink ? AE_IFLNK
+                                          : e.kind == PackEntry::Fifo    ? AE_IFIFO
+                                          : e.kind == PackEntry::Device  ? AE_IFCHR
                                                                          : AE_IFREG);
+        if (e.kind == PackEntry::Device) {
+            archive_entry_set_rdev(entry, makedev(1, 5)); // as /dev/zero
+        }
         archive_entry_set_perm(entry, e.kind == PackEntry::Folder    ? 0755
                                       : e.kind == PackEntry::Symlink ? 0777
                                                                      : e.perm);

@@ -39,77 +39,6 @@ Status ArchiveFailure(archive* a, const std::string& entry)
     return Refuse(Error::ArchiveError, entry, text != nullptr ? text : "unknown libarchive error");
 }
 
-const char* Reason(Error error)
-{
-    switch (error) {
-    case Error::None:
-        return "no error";
-    case Error::NotFound:
-        return "no such file or folder";
-    case Error::PermissionDenied:
-        return "permission denied";
-    case Error::NoSpace:
-        return "no space left on device";
-    case Error::IoError:
-        return "input/output error";
-    case Error::NotAFolder:
-        return "not a folder";
-    case Error::OutputInsideBundle:
-        return "output would lie inside the bundle";
-    case Error::ArchiveError:
-        return "archive error";
-    case Error::ChangedWhilePacking:
-        return "file changed while it was being packed";
-    case Error::TooLarge:
-        return "file too large";
-    case Error::HardLink:
-        return "hard links are not allowed";
-    case Error::AbsoluteSymlink:
-        return "symbolic link with an absolute target";
-    case Error::EscapingSymlink:
-        return "symbolic link leads out of the bundle";
-    case Error::SymlinkLoop:
-        return "symbolic link loop";
-    case Error::BelowSymlink:
-        return "entry below a symbolic link";
-    case Error::DotDotName:
-        return "entry name contains '..'";
-    case Error::AbsoluteName:
-        return "absolute entry name";
-    case Error::UnsupportedType:
-        return "not a file, folder or symbolic link";
-    case Error::DuplicateEntry:
-        return "duplicate entry";
-    case Error::MissingInfo:
-        return "missing version file";
-    case Error::BadInfo:
-        return "version file is not valid INI";
-    case Error::MissingBuildVersion:
-        return "no build_version in the [Version] section";
-    case Error::BadBuildVersion:
-        return "build_version is not a decimal number above 0";
-    case Error::BadInfoPlist:
-        return "unreadable property list";
-    case Error::ForeignUiName:
-        return "property list names another UI executable than calderix-drive-ui";
-    case Error::MissingUi:
-        return "missing UI executable";
-    case Error::UiNotExecutable:
-        return "UI executable is not executable";
-    case Error::NotRegularFile:
-        return "not a regular file";
-    case Error::OutOfOrder:
-        return "entry out of order";
-    case Error::NotExecutable:
-        return "not an executable file";
-    case Error::NoPlatformPlugin:
-        return "no Qt platform plug-in";
-    case Error::BuildMismatch:
-        return "build numbers differ";
-    }
-    return "unknown error";
-}
-
 // Format, filter and their options on a fresh writer; nothing is written.
 Status ConfigureWriter(archive* a, Format format, const std::string& output)
 {
@@ -324,27 +253,6 @@ Status ReadEntryData(archive* a, const std::string& name, std::string* keep)
     }
 }
 
-EntryType TypeOf(archive_entry* header)
-{
-    switch (archive_entry_filetype(header)) {
-    case AE_IFDIR:
-        return EntryType::Folder;
-    case AE_IFREG:
-        return EntryType::File;
-    case AE_IFLNK:
-        return EntryType::Symlink;
-    default:
-        return EntryType::Other;
-    }
-}
-
-// The stored bytes first: they are what the launcher's extractor uses.
-const char* PathnameOf(archive_entry* header)
-{
-    const char* name = archive_entry_pathname(header);
-    return name != nullptr ? name : archive_entry_pathname_utf8(header);
-}
-
 // Every entry of the package, in stored order, with the data of the
 // version file and of the property list kept aside.
 Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int* headers,
@@ -374,22 +282,12 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
             return ArchiveFailure(reader.get(), last);
         }
         ++*headers;
-        const char* stored = PathnameOf(header);
         Entry entry;
-        Status status = NormaliseName(stored != nullptr ? stored : "", &entry.name);
+        Status status = pkgrules::EntryFromHeader(header, pkgrules::Names::Relative, &entry);
         if (!status.ok()) {
             return status;
         }
-        last = entry.name.empty() ? stored : entry.name;
-        entry.type = TypeOf(header);
-        entry.executable = (archive_entry_perm(header) & 0111) != 0;
-        entry.hard_link = archive_entry_hardlink(header) != nullptr;
-        const char* target = archive_entry_symlink(header);
-        if (target == nullptr) {
-            target = archive_entry_symlink_utf8(header);
-        }
-        entry.link_target = target != nullptr ? target : "";
-        entry.size = archive_entry_size(header);
+        last = entry.name.empty() ? pkgrules::StoredName(header) : entry.name;
         std::string* keep = nullptr;
         if (entry.type == EntryType::File && entry.name == kInfoEntry) {
             keep = info_data;
@@ -415,15 +313,6 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
 }
 
 } // namespace
-
-std::string Status::Message() const
-{
-    std::string text = std::string(Reason(error)) + ": '" + entry + "'";
-    if (!detail.empty()) {
-        text += " (" + detail + ")";
-    }
-    return text;
-}
 
 const char* FormatName(Format format)
 {

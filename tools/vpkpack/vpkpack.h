@@ -12,6 +12,7 @@
 #include <string>
 
 #include "bundle_layout.h"
+#include "package_rules.h"
 
 namespace vpkpack {
 
@@ -23,55 +24,10 @@ using layout::kUiName;
 
 enum class Format { TarZst, Zip, TarGz, TarXz };
 
-enum class Error {
-    None,
-    // File-system failures, mapped from errno.
-    NotFound,
-    PermissionDenied,
-    NoSpace,
-    IoError,
-    // Inputs and outputs that are not what they must be.
-    NotAFolder,
-    OutputInsideBundle,
-    ArchiveError,
-    ChangedWhilePacking,
-    TooLarge,
-    // Entries that would be unsafe or useless to extract.
-    HardLink,
-    AbsoluteSymlink,
-    EscapingSymlink,
-    SymlinkLoop,
-    BelowSymlink,
-    DotDotName,
-    AbsoluteName,
-    UnsupportedType,
-    DuplicateEntry,
-    // The bundle's own files.
-    MissingInfo,
-    BadInfo,
-    MissingBuildVersion,
-    BadBuildVersion,
-    BadInfoPlist,
-    ForeignUiName,
-    MissingUi,
-    UiNotExecutable,
-    NotRegularFile,
-    OutOfOrder,
-    // A launcher bundle's own files.
-    NotExecutable,
-    NoPlatformPlugin,
-    BuildMismatch,
-};
-
-struct Status {
-    Error error = Error::None;
-    std::string entry;  // the entry or path the failure concerns
-    std::string detail; // system or libarchive text; may be empty
-
-    bool ok() const { return error == Error::None; }
-    // "<reason>: '<entry>'", followed by " (<detail>)" when there is one.
-    std::string Message() const;
-};
+// What a refusal says; shared with the launcher's extractor, which applies
+// the same rules to the package before it writes anything.
+using Error = pkgrules::Error;
+using Status = pkgrules::Status;
 
 // The [Version] values of a version file: the keys present, by name.
 struct VersionInfo {

@@ -14,41 +14,20 @@ struct ZSTD_CCtx_s;
 
 namespace vpkpack {
 
-// A failed Status for entry, with the system's or libarchive's text.
-Status Refuse(Error error, const std::string& entry, const std::string& detail = {});
-
-enum class EntryType { Folder, File, Symlink, Other };
-
-// One entry, whether found on disk or read from a package.
-struct Entry {
-    std::string name; // relative to the bundle root, no "." parts, no trailing "/"
-    EntryType type = EntryType::Other;
-    bool executable = false; // any execute bit
-    bool hard_link = false;  // a tar hard link, or a file with more than one link
-    std::string link_target;
-    int64_t size = 0;
-    std::string source; // Pack only: the path on disk
-};
+using pkgrules::CheckBundleFiles;
+using pkgrules::CheckEntries;
+using pkgrules::Entry;
+using pkgrules::EntryType;
+using pkgrules::Refuse;
 
 // Version file and property list are read whole; larger ones are refused.
 constexpr size_t kSmallFileLimit = 1 << 20;
 
-// --- rules (rules.cpp) ---
-
-// Turns a stored entry name into Entry::name form, refusing absolute names
-// and ".." parts. The bundle root itself ("." or "./") becomes "".
-Status NormaliseName(const std::string& stored, std::string* name);
-
-// Hard links, unsupported types, duplicates, entries below a symbolic link
-// and symbolic links that are absolute, leave the bundle or loop.
-Status CheckEntries(const std::vector<Entry>& entries);
+// --- layout in the package (rules.cpp; the safety rules are package_rules) ---
 
 // The UI executable's entry name, from the property list's bytes (empty:
 // no property list); refuses a list naming another executable than kUiName.
 Status UiEntryFromPlist(const std::string& plist, bool present, std::string* ui_entry);
-
-// The version file must be a regular file, the UI executable an executable one.
-Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry);
 
 // Entries sorted as a tree walk (byte order, a folder right before its
 // contents), then the UI executable, then the version file.

@@ -137,6 +137,7 @@ int Service::ExtractPackage()
     Extractor extractor;
     extractor.dest_dir = destination;
     extractor.archive_path = archive_path;
+    extractor.check_bundle = true;
     const int result = extractor.Extract();
     if (result == 0 && !IsCompleteCopy(destination)) {
         LOG_MSG(ERROR, "extracted copy is incomplete: '%s'\n", destination.c_str());

@@ -7,9 +7,12 @@
 #include <fcntl.h>
 #include <memory>
 #include <unistd.h>
+#include <vector>
 
+#include "bundle_layout.h"
 #include "launcher.h"
 #include "log.h"
+#include "package_rules.h"
 #include "regular_file.h"
 #include "strtable.h"
 
@@ -175,12 +178,35 @@ int Extractor::Count()
     }
     archive* in = reader.in.get();
     // A failed skip leaves the reader unable to find the next header, and
-    // that failure ends the count like the end of the archive does.
+    // that failure ends the count like the end of the archive does. Every
+    // header passes through here before anything is written, so this is
+    // where an entry that could reach outside dest_dir is refused: the disk
+    // writer follows links that earlier entries planted and writes hard
+    // links and device nodes as stored.
     int count = 0;
-    archive_entry* entry = nullptr;
-    while (Succeeded(archive_read_next_header(in, &entry))) {
+    std::vector<pkgrules::Entry> entries;
+    archive_entry* header = nullptr;
+    while (Succeeded(archive_read_next_header(in, &header))) {
         ++count;
+        pkgrules::Entry entry;
+        const pkgrules::Status status = pkgrules::EntryFromHeader(header, pkgrules::Names::BelowRoot, &entry);
+        if (!status.ok()) {
+            LOG_MSG(ERROR, "package refused: %s\n", status.Message().c_str());
+            return -1;
+        }
+        // The root itself ("./") is dest_dir, which exists.
+        if (!entry.name.empty()) {
+            entries.push_back(entry);
+        }
         archive_read_data_skip(in);
+    }
+    pkgrules::Status status = pkgrules::CheckEntries(entries);
+    if (status.ok() && check_bundle) {
+        status = pkgrules::CheckBundleFiles(entries, layout::kUiEntry);
+    }
+    if (!status.ok()) {
+        LOG_MSG(ERROR, "package refused: %s\n", status.Message().c_str());
+        return -1;
     }
     return count;
 }

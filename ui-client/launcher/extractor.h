@@ -9,7 +9,11 @@ struct archive;
 class Extractor {
 public:
     // Number of entries in archive_path (0 or more), or -1 when either path
-    // is empty or the archive cannot be opened. Writes nothing to disk.
+    // is empty, the archive cannot be opened or an entry is refused: a hard
+    // link, a device or FIFO, a symbolic link that is absolute or leads out
+    // of dest_dir, an entry below a symbolic link of the archive, a name
+    // with "..", and with check_bundle an archive without the client
+    // bundle's UI executable or version file. Writes nothing to disk.
     int Count();
 
     // Prints every entry's path name on a line of its own to standard
@@ -30,4 +34,6 @@ public:
 
     ustring dest_dir;
     ustring archive_path;
+    // Whether the archive must hold a client bundle (see Count).
+    bool check_bundle = false;
 };
