@@ -13,12 +13,17 @@
 //     nothing.
 //  3. Where a new PID namespace is not permitted, inputs whose pid names an
 //     existing process are skipped.
+// StopService signals only the user interface, which it recognises by the
+// executable a process runs; the platform's answer is replaced here too:
+// while armed, the stand-in runs the user interface of the scratch home and
+// no other process exists.
 // The parent then holds the recorded calls against the file: a signal only to
 // the process whose decimal number the file's "pid" holds, SIGTERM first,
 // then probes a second apart, SIGKILL only after the fifth; and a stand-in
 // that the file names does not outlive the sequence.
 #include <climits>
 #include <csignal>
+#include <cstdlib>
 #include <ctime>
 #include <new>
 #include <sched.h>
@@ -31,6 +36,7 @@
 #include "config.h"
 #include "fuzz_support.h"
 #include "mac-service.h"
+#include "process_info.h"
 
 namespace {
 
@@ -117,6 +123,23 @@ extern "C" int kill(pid_t pid, int sig)
     errno = ours ? errno : ESRCH;
     return r == 0 ? 0 : -1;
 }
+
+namespace platform {
+
+int UserProcessExecutable(pid_t pid, std::string& exe)
+{
+    if (!g_armed || pid != g_trace->target_pid) {
+        return ESRCH;
+    }
+    char home[PATH_MAX];
+    if (realpath(getenv("HOME"), home) == nullptr) {
+        return errno;
+    }
+    exe = std::string(home) + "/.Calderix/Calderix.app/Contents/MacOS/calderix-drive-ui";
+    return 0;
+}
+
+} // namespace platform
 
 extern "C" unsigned int sleep(unsigned int seconds)
 {
