@@ -7,6 +7,7 @@
 #include <cstring>
 #include <ostream>
 #include <string>
+#include <sys/stat.h>
 #include <vector>
 
 #include <QApplication>
@@ -102,10 +103,15 @@ TEST(ProgressDialog, TakesItsIconFromTheBundleImages)
     ProcessResult r = testsupport::Run({exe, kPrintIconMode}, env);
     EXPECT_TRUE(r.exited && r.exit_code == 0) << r.err;
     EXPECT_EQ(r.out, "none\n") << "an icon appeared without its file";
+    // A FIFO in the icon's place is no icon, and nothing waits on it.
+    const std::string png = images + "/ico_72_calderix.png";
+    ASSERT_EQ(mkfifo(png.c_str(), 0644), 0) << png << ": " << strerror(errno);
+    r = testsupport::Run({exe, kPrintIconMode}, env);
+    EXPECT_EQ(r.out, "none\n") << r.err;
+    ASSERT_TRUE(RemoveTree(png));
 
     QImage icon(72, 72, QImage::Format_ARGB32);
     icon.fill(Qt::darkCyan);
-    const std::string png = images + "/ico_72_calderix.png";
     ASSERT_TRUE(icon.save(QString::fromStdString(png), "PNG")) << png;
     r = testsupport::Run({exe, kPrintIconMode}, env);
     EXPECT_TRUE(r.exited && r.exit_code == 0) << r.err;

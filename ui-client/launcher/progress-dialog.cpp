@@ -1,11 +1,15 @@
 #include "progress-dialog.h"
 
+#include <string>
+
 #include <QFont>
 #include <QIcon>
+#include <QPixmap>
 #include <QString>
 
 #include "bundle_layout.h"
 #include "calderix-service.h"
+#include "regular_file.h"
 #include "strtable.h"
 
 namespace {
@@ -19,11 +23,18 @@ const char kStyleSheet[] = " QProgressDialog { background-color: WhiteSmoke; \n 
 ProcessingProgressDialog::ProcessingProgressDialog() : QProgressDialog(nullptr, Qt::WindowFlags())
 {
     const QFont font(QStringLiteral("Arial"));
-    const QString icon_path =
-        QString::fromUtf8((Service::GetRootCalderixResourceInstallPath() + "/" + layout::kIconEntry).c_str());
+    const std::string icon_path =
+        std::string((Service::GetRootCalderixResourceInstallPath() + "/" + layout::kIconEntry).c_str());
 
     setWindowTitle(StrTable::LoadStr(StrTable::kStrAppName));
-    setWindowIcon(QIcon(icon_path));
+    // Read here, as a regular file only: the toolkit would open a FIFO in
+    // its place when it first paints the icon, and wait there for ever.
+    std::string bytes;
+    QPixmap icon;
+    if (platform::ReadRegularFile(icon_path, platform::kSmallFileLimit, bytes) == 0 &&
+        icon.loadFromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<uint>(bytes.size()))) {
+        setWindowIcon(QIcon(icon));
+    }
     setWindowFlags(Qt::WindowTitleHint | Qt::WindowSystemMenuHint);
     // Setting 0 first starts the toolkit's minimum-duration clock, after
     // which a dialog not yet shown shows itself.
