@@ -114,6 +114,10 @@ const char* Reason(Error error)
         return "no space left on device";
     case Error::IoError:
         return "input/output error";
+    case Error::NoOutputFolder:
+        return "output folder does not exist";
+    case Error::NotAPackage:
+        return "not a package (tar.zst, zip, tar.gz or tar.xz)";
     case Error::NotAFolder:
         return "not a folder";
     case Error::OutputInsideBundle:

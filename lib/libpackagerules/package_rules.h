@@ -24,6 +24,8 @@ enum class Error {
     IoError,
     // Inputs and outputs that are not what they must be.
     NotAFolder,
+    NoOutputFolder,
+    NotAPackage,
     OutputInsideBundle,
     ArchiveError,
     ChangedWhilePacking,

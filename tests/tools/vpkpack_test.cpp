@@ -465,6 +465,32 @@ INSTANTIATE_TEST_SUITE_P(Formats, PackFormatTest,
                              return name;
                          });
 
+// Several of zstd's jobs' worth of data, packed by one thread and by more,
+// gives one package; the level is the one asked for.
+TEST_F(PackTest, ZstdPackageIsTheSameWhateverTheThreads)
+{
+    std::mt19937 random(11);
+    std::string data(6 << 20, '\0');
+    for (char& c : data) {
+        c = static_cast<char>('a' + random() % 16);
+    }
+    Put("Contents/Resources/data", data);
+    vpkpack::PackOptions options;
+    options.level = 1;
+    std::string one_thread;
+    for (const int threads : {1, 2, 3}) {
+        options.threads = threads;
+        const vpkpack::Status status = vpkpack::Pack(bundle_, out_, options);
+        ASSERT_TRUE(status.ok()) << status.Message();
+        one_thread = threads == 1 ? ReadFile(out_) : one_thread;
+        EXPECT_TRUE(ReadFile(out_) == one_thread) << threads << " threads wrote another package";
+    }
+    EXPECT_TRUE(vpkpack::Check(out_).ok());
+    options.level = 6;
+    ASSERT_TRUE(vpkpack::Pack(bundle_, out_, options).ok());
+    EXPECT_FALSE(ReadFile(out_) == one_thread) << "level 6 wrote what level 1 wrote";
+}
+
 TEST_F(PackTest, InfoOutReplacesTheFileWithTheBundleVersion)
 {
     const std::string info = tmp_ / "INFO";
@@ -529,11 +555,11 @@ TEST_F(PackTest, CheckRefusesADamagedPackage)
 
 struct CommandLine {
     const char* name;
-    std::vector<std::string> args; // {B}: the bundle, {O}: the output
+    std::vector<std::string> args; // "{B}" stands for the bundle, "{O}" for the output's name
     const char* source_date_epoch; // null: unset
     int exit_code;
-    const char* stderr_part;
-    time_t mtime = 0; // of every entry of a package written
+    const char* printed; // part of what it prints on standard output or error
+    time_t mtime = 0;    // of every entry of a package written
 };
 
 class CommandLineTest : public PackTest, public ::testing::WithParamInterface<CommandLine> {};
@@ -542,16 +568,27 @@ TEST_P(CommandLineTest, ExitsWithItsCodeAndMessage)
 {
     const CommandLine& row = GetParam();
     std::vector<std::string> argv = {VPKPACK_BIN};
-    for (const std::string& arg : row.args) {
-        argv.push_back(arg == "{B}" ? bundle_ : arg == "{O}" ? out_ : arg);
+    std::string output; // the output operand, if any
+    for (std::string arg : row.args) {
+        for (const auto& token : {std::make_pair("{B}", bundle_), std::make_pair("{O}", out_)}) {
+            const size_t at = arg.find(token.first);
+            if (at != std::string::npos) {
+                arg.replace(at, 3, token.second);
+                output = token.second == out_ ? arg : output;
+            }
+        }
+        argv.push_back(arg);
     }
     const testsupport::ProcessResult result = testsupport::Run(
         argv, {row.source_date_epoch ? testsupport::Set("SOURCE_DATE_EPOCH", row.source_date_epoch)
                                      : testsupport::Unset("SOURCE_DATE_EPOCH")});
     EXPECT_EQ(row.exit_code, result.exit_code) << result.err;
-    EXPECT_NE(std::string::npos, result.err.find(row.stderr_part)) << result.err;
-    ASSERT_EQ(row.exit_code == 0, testsupport::Exists(out_)) << out_;
-    for (const StoredEntry& entry : row.exit_code == 0 ? Packed(out_) : std::vector<StoredEntry>{}) {
+    EXPECT_NE(std::string::npos, (result.out + result.err).find(row.printed)) << result.out << result.err;
+    if (output.empty()) {
+        return;
+    }
+    ASSERT_EQ(row.exit_code == 0, testsupport::Exists(output)) << output;
+    for (const StoredEntry& entry : row.exit_code == 0 ? Packed(output) : std::vector<StoredEntry>{}) {
         EXPECT_EQ(row.mtime, entry.mtime) << entry.name;
     }
 }
@@ -574,7 +611,26 @@ INSTANTIATE_TEST_SUITE_P(
                     {"/nonexistent/Calderix.app", "{O}"},
                     nullptr,
                     1,
-                    "vpkpack: no such file or folder: '/nonexistent/Calderix.app'"}),
+                    "vpkpack: no such file or folder: '/nonexistent/Calderix.app'"},
+        CommandLine{"missing_output_folder",
+                    {"{B}", "/nonexistent/calderix.vpk"},
+                    nullptr,
+                    1,
+                    "vpkpack: output folder does not exist: '/nonexistent'\n"},
+        CommandLine{"format_from_output_name", {"{B}", "{O}.zip"}, nullptr, 0, "(zip, build 1201, "},
+        CommandLine{"format_against_output_name",
+                    {"--format", "tar.xz", "{B}", "{O}.tgz"},
+                    nullptr,
+                    2,
+                    "--format tar.xz does not match the output's name"},
+        CommandLine{"level_for_zip", {"--level", "3", "{B}", "{O}.zip"}, nullptr, 2, "apply to tar.zst only"},
+        CommandLine{"level_out_of_range", {"--level=23", "{B}", "{O}"}, nullptr, 2, "from 1 to 22: '23'"},
+        CommandLine{"check_of_no_package",
+                    {"--check", "{B}/Contents/Resources/INFO"},
+                    nullptr,
+                    1,
+                    "not a package (tar.zst, zip, tar.gz or tar.xz): '"},
+        CommandLine{"version", {"--version"}, nullptr, 0, "vpkpack 1.0.0 (libarchive "}),
     servicetest::RowName<CommandLine>);
 
 } // namespace

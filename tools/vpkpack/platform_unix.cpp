@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <fcntl.h>
+#include <sched.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -40,6 +41,16 @@ Status FromErrno(int e, const std::string& entry)
         status.detail = std::strerror(e);
     }
     return status;
+}
+
+int ProcessorCount()
+{
+    cpu_set_t cpus;
+    if (sched_getaffinity(0, sizeof cpus, &cpus) == 0 && CPU_COUNT(&cpus) > 0) {
+        return CPU_COUNT(&cpus);
+    }
+    const long online = sysconf(_SC_NPROCESSORS_ONLN);
+    return online > 0 ? static_cast<int>(online) : 1;
 }
 
 namespace {
@@ -165,6 +176,17 @@ Status ReadSmallFile(const std::string& path, const std::string& entry, size_t l
         data->swap(content);
     }
     return status;
+}
+
+Status CheckOutputFolder(const std::string& path)
+{
+    const std::string folder = FolderOf(path);
+    struct stat st;
+    if (stat(folder.c_str(), &st) != 0) {
+        return errno == ENOENT || errno == ENOTDIR ? Refuse(Error::NoOutputFolder, folder)
+                                                   : FromErrno(errno, folder);
+    }
+    return S_ISDIR(st.st_mode) ? Status() : Refuse(Error::NoOutputFolder, folder);
 }
 
 Status IsInside(const std::string& folder, const std::string& path, bool* inside)

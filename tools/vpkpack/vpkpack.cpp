@@ -4,10 +4,13 @@
 // the same folder always gives the same bytes, and the UI executable and
 // the version file go last: an extraction that stops early leaves one of
 // them missing, which the launcher takes for an incomplete installation.
+#include <algorithm>
 #include <archive.h>
 #include <archive_entry.h>
 #include <cerrno>
+#include <cstring>
 #include <memory>
+#include <zstd.h>
 
 #include "vpkpack_p.h"
 
@@ -18,7 +21,9 @@ namespace {
 // Same block size as the launcher's reader.
 constexpr size_t kBlockSize = 10240;
 constexpr size_t kCopyChunk = 65536;
-constexpr int kZstdLevel = 19;
+// The errno libarchive sets for data that is no archive it knows (its own
+// name for it, ARCHIVE_ERRNO_FILE_FORMAT, is private to it).
+constexpr int kUnknownFormat = EILSEQ;
 
 struct WriterFree {
     void operator()(archive* a) const { archive_write_free(a); }
@@ -37,6 +42,14 @@ Status ArchiveFailure(archive* a, const std::string& entry)
 {
     const char* text = archive_error_string(a);
     return Refuse(Error::ArchiveError, entry, text != nullptr ? text : "unknown libarchive error");
+}
+
+// The threads that compress a tar.zst package: as many as asked for, else
+// one per processor; past eight, zstd's jobs on a bundle of a few hundred
+// megabytes are too few to keep more busy, and each costs memory.
+int Threads(const PackOptions& options)
+{
+    return options.threads > 0 ? options.threads : std::min(platform::ProcessorCount(), 8);
 }
 
 // Format, filter and their options on a fresh writer; nothing is written.
@@ -172,7 +185,7 @@ Status WritePackage(int fd, const std::string& output, const std::vector<Entry>&
         return status;
     }
     const bool opened = options.format == Format::TarZst
-                            ? zstd.Open(writer.get(), fd, kZstdLevel)
+                            ? zstd.Open(writer.get(), fd, options.level, Threads(options))
                             : archive_write_open_fd(writer.get(), fd) == ARCHIVE_OK;
     if (!opened) {
         return ArchiveFailure(writer.get(), output);
@@ -253,6 +266,13 @@ Status ReadEntryData(archive* a, const std::string& name, std::string* keep)
     }
 }
 
+// A file that libarchive recognises no archive in.
+Status NotAPackage(archive* a, const std::string& package)
+{
+    const char* text = archive_error_string(a);
+    return Refuse(Error::NotAPackage, package, text != nullptr ? text : "");
+}
+
 // Every entry of the package, in stored order, with the data of the
 // version file and of the property list kept aside.
 Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int* headers,
@@ -268,7 +288,15 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
     }
     if (archive_read_open_filename(reader.get(), package.c_str(), kBlockSize) != ARCHIVE_OK) {
         const int e = archive_errno(reader.get());
-        return e > 0 && e != EILSEQ ? platform::FromErrno(e, package) : ArchiveFailure(reader.get(), package);
+        if (e == EISDIR) {
+            return Refuse(Error::NotAPackage, package, "a folder");
+        }
+        // A package cut short or damaged near its start fails here too,
+        // with another error.
+        if (e == kUnknownFormat) {
+            return NotAPackage(reader.get(), package);
+        }
+        return e > 0 ? platform::FromErrno(e, package) : ArchiveFailure(reader.get(), package);
     }
     std::string last = package;
     for (;;) {
@@ -279,7 +307,9 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
         }
         // The launcher stops at warnings too.
         if (r != ARCHIVE_OK) {
-            return ArchiveFailure(reader.get(), last);
+            return *headers == 0 && archive_errno(reader.get()) == kUnknownFormat
+                       ? NotAPackage(reader.get(), package)
+                       : ArchiveFailure(reader.get(), last);
         }
         ++*headers;
         Entry entry;
@@ -309,7 +339,7 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
     if (archive_read_close(reader.get()) != ARCHIVE_OK) {
         return ArchiveFailure(reader.get(), package);
     }
-    return {};
+    return *headers == 0 ? Refuse(Error::NotAPackage, package, "no entries") : Status();
 }
 
 } // namespace
@@ -340,11 +370,42 @@ bool ParseFormat(const std::string& name, Format* format)
     return false;
 }
 
+bool FormatOfName(const std::string& path, Format* format)
+{
+    static const struct {
+        const char* ending;
+        Format format;
+    } endings[] = {{".tar.zst", Format::TarZst}, {".tzst", Format::TarZst}, {".zip", Format::Zip},
+                   {".tar.gz", Format::TarGz},   {".tgz", Format::TarGz},   {".tar.xz", Format::TarXz},
+                   {".txz", Format::TarXz}};
+    for (const auto& e : endings) {
+        const size_t n = std::strlen(e.ending);
+        if (path.size() > n && path.compare(path.size() - n, n, e.ending) == 0) {
+            *format = e.format;
+            return true;
+        }
+    }
+    return false;
+}
+
+std::string VersionText()
+{
+    return std::string(VPKPACK_VERSION) + " (" + archive_version_string() + ", zstd " + ZSTD_versionString() +
+           ")";
+}
+
 Status Pack(const std::string& bundle_dir, const std::string& output, const PackOptions& options,
             PackageSummary* summary)
 {
+    // A mistyped output folder is named as such before anything is read.
+    Status status = platform::CheckOutputFolder(output);
+    if (status.ok() && !options.info_out.empty()) {
+        status = platform::CheckOutputFolder(options.info_out);
+    }
     // A package written into the bundle would end up inside the next one.
-    Status status = RefuseInside(bundle_dir, output);
+    if (status.ok()) {
+        status = RefuseInside(bundle_dir, output);
+    }
     if (status.ok() && !options.info_out.empty()) {
         status = RefuseInside(bundle_dir, options.info_out);
     }

@@ -35,8 +35,18 @@ struct VersionInfo {
     long build = 0; // build_version as a number, always above 0 once accepted
 };
 
+// zstd's compression levels, for PackOptions::level.
+constexpr int kMinZstdLevel = 1;
+constexpr int kMaxZstdLevel = 22;
+constexpr int kDefaultZstdLevel = 19;
+
 struct PackOptions {
     Format format = Format::TarZst;
+    // tar.zst only: the zstd level, and the threads that compress; 0 threads
+    // is one per processor, up to 8. The package is the same whatever the
+    // number of threads.
+    int level = kDefaultZstdLevel;
+    int threads = 0;
     // Modification time of every entry, in seconds since 1970.
     time_t mtime = 0;
     // Where to write the version file for the launcher's bundle; none if empty.
@@ -53,6 +63,13 @@ struct PackageSummary {
 const char* FormatName(Format format);
 // False, leaving *format alone, for a name FormatName does not return.
 bool ParseFormat(const std::string& name, Format* format);
+// The format that a file name's ending names (".tar.zst" or ".tzst",
+// ".zip", ".tar.gz" or ".tgz", ".tar.xz" or ".txz"); false, leaving *format
+// alone, for any other name.
+bool FormatOfName(const std::string& path, Format* format);
+
+// vpkpack's version and those of the libraries that write its packages.
+std::string VersionText();
 
 // Packs bundle_dir into output. Nothing is written unless every rule holds;
 // the package (and the version file of info_out) replace their targets only

@@ -53,11 +53,17 @@ namespace platform {
 // The one place where an errno becomes a result.
 Status FromErrno(int e, const std::string& entry);
 
+// The processors this process may run on; at least 1.
+int ProcessorCount();
+
 // Every entry below root (root excluded), in no particular order.
 Status ScanTree(const std::string& root, std::vector<Entry>* entries);
 
 // The whole file at path, refused with TooLarge beyond limit bytes.
 Status ReadSmallFile(const std::string& path, const std::string& entry, size_t limit, std::string* data);
+
+// NoOutputFolder unless the folder that path names a file in is there.
+Status CheckOutputFolder(const std::string& path);
 
 // Whether path would lie inside folder once both are resolved.
 Status IsInside(const std::string& folder, const std::string& path, bool* inside);
@@ -110,8 +116,9 @@ public:
     ZstdSink& operator=(const ZstdSink&) = delete;
     ~ZstdSink();
 
-    // archive_write_open on a; false with the archive's error set.
-    bool Open(archive* a, int fd, int level);
+    // archive_write_open on a, compressing at level with threads workers
+    // (at least 1); false with the archive's error set.
+    bool Open(archive* a, int fd, int level, int threads);
 
 private:
     bool Compress(archive* a, const void* data, size_t size, bool end);

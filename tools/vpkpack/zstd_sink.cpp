@@ -19,13 +19,18 @@ ZstdSink::~ZstdSink()
     ZSTD_freeCCtx(cctx_);
 }
 
-bool ZstdSink::Open(archive* a, int fd, int level)
+// Even one thread runs as a worker of zstd's multi-threaded mode: that mode
+// cuts the input into jobs of a size set by the level alone, so its frame
+// is the same whatever the number of workers, while the single-threaded
+// mode would write another.
+bool ZstdSink::Open(archive* a, int fd, int level, int threads)
 {
     fd_ = fd;
     cctx_ = ZSTD_createCCtx();
     out_.resize(ZSTD_CStreamOutSize());
     if (cctx_ == nullptr || ZSTD_isError(ZSTD_CCtx_setParameter(cctx_, ZSTD_c_compressionLevel, level)) ||
-        ZSTD_isError(ZSTD_CCtx_setParameter(cctx_, ZSTD_c_checksumFlag, 1))) {
+        ZSTD_isError(ZSTD_CCtx_setParameter(cctx_, ZSTD_c_checksumFlag, 1)) ||
+        ZSTD_isError(ZSTD_CCtx_setParameter(cctx_, ZSTD_c_nbWorkers, threads < 1 ? 1 : threads))) {
         archive_set_error(a, ENOMEM, "cannot set up the zstd compressor");
         return false;
     }
