@@ -238,54 +238,76 @@ Status NormaliseName(const std::string& stored, Names names, std::string* name)
     return {};
 }
 
-Status CheckEntries(const std::vector<Entry>& entries)
+Status CheckEntries(const std::vector<Entry>& entries, std::vector<Status>* all)
 {
+    // Three passes, each rule in the entries' order: what an entry is, what
+    // lies above it, where a link leads. An entry refused once is not
+    // looked at again.
+    std::vector<Status> refused;
+    std::set<std::string> refused_names;
+    const auto refuse = [&](const Status& status) {
+        refused.push_back(status);
+        refused_names.insert(status.entry);
+        return all != nullptr;
+    };
     std::set<std::string> seen;
     std::map<std::string, std::string> links;
     for (const Entry& entry : entries) {
+        Status status;
         if (!seen.insert(entry.name).second) {
-            return Refuse(Error::DuplicateEntry, entry.name);
-        }
-        if (entry.hard_link) {
-            return Refuse(Error::HardLink, entry.name);
-        }
-        if (entry.type == EntryType::Other) {
-            return Refuse(Error::UnsupportedType, entry.name);
-        }
-        if (entry.type == EntryType::Symlink) {
+            status = Refuse(Error::DuplicateEntry, entry.name);
+        } else if (entry.hard_link) {
+            status = Refuse(Error::HardLink, entry.name);
+        } else if (entry.type == EntryType::Other) {
+            status = Refuse(Error::UnsupportedType, entry.name);
+        } else if (entry.type == EntryType::Symlink) {
             links[entry.name] = entry.link_target;
+        }
+        if (!status.ok() && !refuse(status)) {
+            return status;
         }
     }
     for (const Entry& entry : entries) {
-        for (size_t slash = entry.name.find('/'); slash != std::string::npos;
+        for (size_t slash = entry.name.find('/');
+             slash != std::string::npos && refused_names.count(entry.name) == 0;
              slash = entry.name.find('/', slash + 1)) {
             const std::string prefix = entry.name.substr(0, slash);
-            if (links.count(prefix) != 0) {
-                return Refuse(Error::BelowSymlink, entry.name, "'" + prefix + "' is a symbolic link");
+            if (links.count(prefix) != 0 &&
+                !refuse(Refuse(Error::BelowSymlink, entry.name, "'" + prefix + "' is a symbolic link"))) {
+                return refused.front();
             }
         }
     }
     for (const Entry& entry : entries) {
-        if (entry.type != EntryType::Symlink) {
+        if (entry.type != EntryType::Symlink || refused_names.count(entry.name) != 0) {
             continue;
         }
         const std::string detail = "-> " + entry.link_target;
+        Status status;
         if (entry.link_target.empty()) {
-            return Refuse(Error::EscapingSymlink, entry.name, "empty target");
+            status = Refuse(Error::EscapingSymlink, entry.name, "empty target");
+        } else if (entry.link_target[0] == '/') {
+            status = Refuse(Error::AbsoluteSymlink, entry.name, detail);
+        } else {
+            switch (Resolve(entry.name, links)) {
+            case Resolution::Inside:
+                break;
+            case Resolution::Outside:
+                status = Refuse(Error::EscapingSymlink, entry.name, detail);
+                break;
+            case Resolution::Loop:
+                status = Refuse(Error::SymlinkLoop, entry.name, detail);
+                break;
+            }
         }
-        if (entry.link_target[0] == '/') {
-            return Refuse(Error::AbsoluteSymlink, entry.name, detail);
-        }
-        switch (Resolve(entry.name, links)) {
-        case Resolution::Inside:
-            break;
-        case Resolution::Outside:
-            return Refuse(Error::EscapingSymlink, entry.name, detail);
-        case Resolution::Loop:
-            return Refuse(Error::SymlinkLoop, entry.name, detail);
+        if (!status.ok() && !refuse(status)) {
+            return status;
         }
     }
-    return {};
+    if (all != nullptr) {
+        all->insert(all->end(), refused.begin(), refused.end());
+    }
+    return refused.empty() ? Status() : refused.front();
 }
 
 const char* StoredName(archive_entry* header)
@@ -314,26 +336,31 @@ Status EntryFromHeader(archive_entry* header, Names names, Entry* entry)
     return {};
 }
 
-Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry)
+Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry,
+                        std::vector<Status>* all)
 {
-    const Entry* info = Find(entries, layout::kInfoEntry);
-    if (info == nullptr) {
-        return Refuse(Error::MissingInfo, layout::kInfoEntry);
+    Status info;
+    const Entry* info_entry = Find(entries, layout::kInfoEntry);
+    if (info_entry == nullptr) {
+        info = Refuse(Error::MissingInfo, layout::kInfoEntry);
+    } else if (info_entry->type != EntryType::File) {
+        info = Refuse(Error::NotRegularFile, layout::kInfoEntry);
     }
-    if (info->type != EntryType::File) {
-        return Refuse(Error::NotRegularFile, layout::kInfoEntry);
+    Status ui;
+    const Entry* ui_file = Find(entries, ui_entry);
+    if (ui_file == nullptr) {
+        ui = Refuse(Error::MissingUi, ui_entry);
+    } else if (ui_file->type != EntryType::File) {
+        ui = Refuse(Error::NotRegularFile, ui_entry);
+    } else if (!ui_file->executable) {
+        ui = Refuse(Error::UiNotExecutable, ui_entry);
     }
-    const Entry* ui = Find(entries, ui_entry);
-    if (ui == nullptr) {
-        return Refuse(Error::MissingUi, ui_entry);
+    for (const Status* status : {&info, &ui}) {
+        if (all != nullptr && !status->ok()) {
+            all->push_back(*status);
+        }
     }
-    if (ui->type != EntryType::File) {
-        return Refuse(Error::NotRegularFile, ui_entry);
-    }
-    if (!ui->executable) {
-        return Refuse(Error::UiNotExecutable, ui_entry);
-    }
-    return {};
+    return info.ok() ? ui : info;
 }
 
 } // namespace pkgrules

@@ -102,11 +102,15 @@ const char* StoredName(archive_entry* header);
 Status EntryFromHeader(archive_entry* header, Names names, Entry* entry);
 
 // Hard links, unsupported types, duplicates, entries below a symbolic link
-// and symbolic links that are absolute, leave the bundle or loop.
-Status CheckEntries(const std::vector<Entry>& entries);
+// and symbolic links that are absolute, leave the bundle or loop. Returns
+// the first refusal in the entries' order; with all given, also appends to
+// it every entry refused, each once, under the first rule it breaks.
+Status CheckEntries(const std::vector<Entry>& entries, std::vector<Status>* all = nullptr);
 
 // The version file must be a regular file, the UI executable (entry name
-// ui_entry) an executable one.
-Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry);
+// ui_entry) an executable one. Returns the first refusal; with all given,
+// also appends to it the refusal of each of the two.
+Status CheckBundleFiles(const std::vector<Entry>& entries, const std::string& ui_entry,
+                        std::vector<Status>* all = nullptr);
 
 } // namespace pkgrules

@@ -237,6 +237,49 @@ INSTANTIATE_TEST_SUITE_P(
                     kPlistName}),
     servicetest::RowName<PackRefusal>);
 
+// Each refusal as "<error number> <entry>", in the order reported.
+std::vector<std::string> Listed(const std::vector<vpkpack::Status>& refused)
+{
+    std::vector<std::string> listed;
+    for (const vpkpack::Status& status : refused) {
+        listed.push_back(std::to_string(static_cast<int>(status.error)) + " " + status.entry);
+    }
+    return listed;
+}
+
+std::string Row(Error error, const std::string& entry)
+{
+    return std::to_string(static_cast<int>(error)) + " " + entry;
+}
+
+// One run names every entry to mend, rule by rule, on the command line one
+// line each.
+TEST_F(PackTest, RefusesEveryOffendingEntryInOneRun)
+{
+    const testsupport::ProcessResult change = testsupport::Run(
+        {"/bin/sh", "-ec",
+         "cd \"$0\"; ln -s /etc/passwd Contents/abs; mkfifo Contents/pipe; "
+         "chmod 644 Contents/MacOS/calderix-drive-ui; rm Contents/Resources/INFO",
+         bundle_});
+    ASSERT_EQ(change.exit_code, 0) << change.err;
+
+    std::vector<vpkpack::Status> refused;
+    const vpkpack::Status status = vpkpack::Pack(bundle_, out_, {}, nullptr, &refused);
+    EXPECT_EQ(Listed(refused), (std::vector<std::string>{Row(Error::UnsupportedType, "Contents/pipe"),
+                                                         Row(Error::AbsoluteSymlink, "Contents/abs"),
+                                                         Row(Error::MissingInfo, kInfoName),
+                                                         Row(Error::UiNotExecutable, kUi)}));
+    EXPECT_EQ(Listed({status}), Listed({refused.front()}));
+    const testsupport::ProcessResult cli = testsupport::Run({VPKPACK_BIN, bundle_, out_});
+    EXPECT_EQ(cli.exit_code, 1);
+    std::string lines;
+    for (const vpkpack::Status& each : refused) {
+        lines += "vpkpack: " + each.Message() + "\n";
+    }
+    EXPECT_EQ(cli.err, lines);
+    EXPECT_FALSE(testsupport::Exists(out_)) << out_;
+}
+
 // --- refusals of hand-made packages ---
 
 std::vector<StoredEntry> ValidPackage()
@@ -277,6 +320,25 @@ TEST_P(CheckRefusalTest, RefusesNamingTheEntry)
 }
 
 const StoredEntry kLate = StoredEntry{"Contents/Resources/late", AE_IFREG, 0644, "x"};
+
+TEST_F(PackTest, CheckRefusesEveryOffendingEntryInOneRun)
+{
+    std::vector<StoredEntry> entries = ValidPackage();
+    entries[entries.size() - 2].perm = 0644;
+    entries.insert(entries.begin() + 1, {StoredEntry{"Contents/../../evil", AE_IFREG, 0644, "x"},
+                                         StoredEntry{"Contents/abs", AE_IFLNK, 0755, "", "/etc/passwd"},
+                                         StoredEntry{"Contents/b", AE_IFREG, 0644, "", "", kPlistName}});
+    ASSERT_TRUE(WriteTar(out_, entries));
+
+    std::vector<vpkpack::Status> refused;
+    vpkpack::Check(out_, nullptr, &refused);
+    EXPECT_EQ(Listed(refused), (std::vector<std::string>{Row(Error::DotDotName, "Contents/../../evil"),
+                                                         Row(Error::HardLink, "Contents/b"),
+                                                         Row(Error::AbsoluteSymlink, "Contents/abs"),
+                                                         Row(Error::UiNotExecutable, kUi)}));
+}
+
+
 
 INSTANTIATE_TEST_SUITE_P(
     Refusals, CheckRefusalTest,

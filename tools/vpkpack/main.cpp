@@ -27,9 +27,12 @@ int UsageError(const std::string& message)
     return kUsageError;
 }
 
-int Failed(const vpkpack::Status& status)
+// One line for the failure, or one per refusal when the rules refused.
+int Failed(const vpkpack::Status& status, const std::vector<vpkpack::Status>& refused)
 {
-    std::fprintf(stderr, "vpkpack: %s\n", status.Message().c_str());
+    for (const vpkpack::Status& each : refused.empty() ? std::vector<vpkpack::Status>{status} : refused) {
+        std::fprintf(stderr, "vpkpack: %s\n", each.Message().c_str());
+    }
     return kFailed;
 }
 
@@ -212,6 +215,7 @@ int main(int argc, char** argv)
 
     vpkpack::PackageSummary summary;
     vpkpack::Status status;
+    std::vector<vpkpack::Status> refused;
     if (!args.print_build.empty()) {
         status = vpkpack::ReadVersionFile(args.print_build, &summary.version);
         if (status.ok()) {
@@ -224,7 +228,7 @@ int main(int argc, char** argv)
                         args.check_bundle.c_str(), summary.version.build, summary.entries);
         }
     } else if (!args.check.empty()) {
-        status = vpkpack::Check(args.check, &summary);
+        status = vpkpack::Check(args.check, &summary, &refused);
         if (status.ok()) {
             std::printf("vpkpack: '%s' is a valid package of build %ld (%d entries)\n", args.check.c_str(),
                         summary.version.build, summary.entries);
@@ -238,11 +242,11 @@ int main(int argc, char** argv)
         if (usable != kOk) {
             return usable;
         }
-        status = vpkpack::Pack(args.operands[0], args.operands[1], options, &summary);
+        status = vpkpack::Pack(args.operands[0], args.operands[1], options, &summary, &refused);
         if (status.ok()) {
             std::printf("vpkpack: wrote '%s' (%s, build %ld, %d entries)\n", args.operands[1].c_str(),
                         vpkpack::FormatName(options.format), summary.version.build, summary.entries);
         }
     }
-    return status.ok() ? kOk : Failed(status);
+    return status.ok() ? kOk : Failed(status, refused);
 }

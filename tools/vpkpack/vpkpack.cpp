@@ -52,6 +52,15 @@ int Threads(const PackOptions& options)
     return options.threads > 0 ? options.threads : std::min(platform::ProcessorCount(), 8);
 }
 
+// The first of a run's refusals, handing all of them to refused if given.
+Status Refused(const std::vector<Status>& refusals, std::vector<Status>* refused)
+{
+    if (refused != nullptr) {
+        *refused = refusals;
+    }
+    return refusals.front();
+}
+
 // Format, filter and their options on a fresh writer; nothing is written.
 Status ConfigureWriter(archive* a, Format format, const std::string& output)
 {
@@ -276,7 +285,8 @@ Status NotAPackage(archive* a, const std::string& package)
 // Every entry of the package, in stored order, with the data of the
 // version file and of the property list kept aside.
 Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int* headers,
-                   std::string* info_data, std::string* plist_data, bool* plist_present)
+                   std::string* info_data, std::string* plist_data, bool* plist_present,
+                   std::vector<Status>* refusals)
 {
     Reader reader(archive_read_new());
     if (!reader) {
@@ -312,27 +322,32 @@ Status ReadEntries(const std::string& package, std::vector<Entry>* entries, int*
                        : ArchiveFailure(reader.get(), last);
         }
         ++*headers;
+        // An entry whose name is refused is left out of the other rules.
         Entry entry;
         Status status = pkgrules::EntryFromHeader(header, pkgrules::Names::Relative, &entry);
         if (!status.ok()) {
-            return status;
+            refusals->push_back(status);
         }
         last = entry.name.empty() ? pkgrules::StoredName(header) : entry.name;
+        // A second entry of the same name is refused as a duplicate; its
+        // data is not taken for the first one's.
+        const bool again =
+            (entry.name == kInfoEntry || entry.name == kPlistEntry) && Find(*entries, entry.name) != nullptr;
         std::string* keep = nullptr;
-        if (entry.type == EntryType::File && entry.name == kInfoEntry) {
+        if (status.ok() && !again && entry.type == EntryType::File && entry.name == kInfoEntry) {
             keep = info_data;
-        } else if (entry.type == EntryType::File && entry.name == kPlistEntry) {
+        } else if (status.ok() && !again && entry.type == EntryType::File && entry.name == kPlistEntry) {
             keep = plist_data;
             *plist_present = true;
-        } else if (entry.name == kPlistEntry) {
-            return Refuse(Error::NotRegularFile, kPlistEntry);
+        } else if (status.ok() && !again && entry.name == kPlistEntry) {
+            refusals->push_back(Refuse(Error::NotRegularFile, kPlistEntry));
         }
-        status = ReadEntryData(reader.get(), last, keep);
-        if (!status.ok()) {
-            return status;
+        const Status read = ReadEntryData(reader.get(), last, keep);
+        if (!read.ok()) {
+            return read;
         }
         // The bundle root itself ("./") is just the destination folder.
-        if (!entry.name.empty()) {
+        if (status.ok() && !entry.name.empty()) {
             entries->push_back(entry);
         }
     }
@@ -395,7 +410,7 @@ std::string VersionText()
 }
 
 Status Pack(const std::string& bundle_dir, const std::string& output, const PackOptions& options,
-            PackageSummary* summary)
+            PackageSummary* summary, std::vector<Status>* refused)
 {
     // A mistyped output folder is named as such before anything is read.
     Status status = platform::CheckOutputFolder(output);
@@ -417,36 +432,42 @@ Status Pack(const std::string& bundle_dir, const std::string& output, const Pack
         return status;
     }
 
+    // Every rule is applied before any refusal is reported, so that one run
+    // names every entry to mend.
+    std::vector<Status> refusals;
     std::string plist;
     const Entry* plist_entry = Find(entries, kPlistEntry);
     if (plist_entry != nullptr && plist_entry->type != EntryType::File) {
-        return Refuse(Error::NotRegularFile, kPlistEntry);
-    }
-    if (plist_entry != nullptr) {
+        refusals.push_back(Refuse(Error::NotRegularFile, kPlistEntry));
+    } else if (plist_entry != nullptr) {
         status = platform::ReadSmallFile(plist_entry->source, kPlistEntry, kSmallFileLimit, &plist);
+        if (!status.ok()) {
+            return status;
+        }
     }
-    std::string ui_entry;
-    if (status.ok()) {
-        status = UiEntryFromPlist(plist, plist_entry != nullptr, &ui_entry);
-    }
-    if (status.ok()) {
-        SortForPackage(&entries, ui_entry);
-        status = CheckEntries(entries);
-    }
-    if (status.ok()) {
-        status = CheckBundleFiles(entries, ui_entry);
-    }
-    std::string info_data;
-    if (status.ok()) {
-        status = platform::ReadSmallFile(Find(entries, kInfoEntry)->source, kInfoEntry, kSmallFileLimit,
-                                         &info_data);
-    }
-    PackageSummary found;
-    if (status.ok()) {
-        status = ParseVersionFile(info_data, &found.version);
-    }
+    std::string ui_entry = layout::kUiEntry;
+    status = UiEntryFromPlist(plist, plist_entry != nullptr && plist_entry->type == EntryType::File, &ui_entry);
     if (!status.ok()) {
-        return status;
+        refusals.push_back(status);
+    }
+    SortForPackage(&entries, ui_entry);
+    CheckEntries(entries, &refusals);
+    CheckBundleFiles(entries, ui_entry, &refusals);
+    std::string info_data;
+    PackageSummary found;
+    const Entry* info = Find(entries, kInfoEntry);
+    if (info != nullptr && info->type == EntryType::File) {
+        status = platform::ReadSmallFile(info->source, kInfoEntry, kSmallFileLimit, &info_data);
+        if (!status.ok()) {
+            return status;
+        }
+        status = ParseVersionFile(info_data, &found.version);
+        if (!status.ok()) {
+            refusals.push_back(status);
+        }
+    }
+    if (!refusals.empty()) {
+        return Refused(refusals, refused);
     }
     found.entries = static_cast<int>(entries.size());
 
@@ -478,36 +499,49 @@ Status Pack(const std::string& bundle_dir, const std::string& output, const Pack
     return status;
 }
 
-Status Check(const std::string& package, PackageSummary* summary)
+Status Check(const std::string& package, PackageSummary* summary, std::vector<Status>* refused)
 {
     std::vector<Entry> entries;
     int headers = 0;
     std::string info_data;
     std::string plist;
     bool plist_present = false;
-    Status status = ReadEntries(package, &entries, &headers, &info_data, &plist, &plist_present);
-    if (status.ok()) {
-        status = CheckEntries(entries);
+    std::vector<Status> refusals;
+    Status status = ReadEntries(package, &entries, &headers, &info_data, &plist, &plist_present, &refusals);
+    if (!status.ok()) {
+        return status;
     }
-    std::string ui_entry;
-    if (status.ok()) {
-        status = UiEntryFromPlist(plist, plist_present, &ui_entry);
+    CheckEntries(entries, &refusals);
+    std::string ui_entry = layout::kUiEntry;
+    status = UiEntryFromPlist(plist, plist_present, &ui_entry);
+    if (!status.ok()) {
+        refusals.push_back(status);
     }
-    if (status.ok()) {
-        status = CheckBundleFiles(entries, ui_entry);
-    }
+    const size_t before = refusals.size();
+    CheckBundleFiles(entries, ui_entry, &refusals);
     PackageSummary found;
-    if (status.ok()) {
+    const Entry* info = Find(entries, kInfoEntry);
+    if (info != nullptr && info->type == EntryType::File) {
         status = ParseVersionFile(info_data, &found.version);
+        if (!status.ok()) {
+            refusals.push_back(status);
+        }
     }
-    if (status.ok()) {
+    // Where the two files are missing, their place says nothing more.
+    if (refusals.size() == before) {
         status = CheckOrder(entries, ui_entry);
+        if (!status.ok()) {
+            refusals.push_back(status);
+        }
     }
-    if (status.ok() && summary != nullptr) {
+    if (!refusals.empty()) {
+        return Refused(refusals, refused);
+    }
+    if (summary != nullptr) {
         found.entries = headers;
         *summary = found;
     }
-    return status;
+    return {};
 }
 
 Status ReadVersionFile(const std::string& path, VersionInfo* info)

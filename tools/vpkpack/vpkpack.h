@@ -10,6 +10,7 @@
 #include <ctime>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "bundle_layout.h"
 #include "package_rules.h"
@@ -73,13 +74,17 @@ std::string VersionText();
 
 // Packs bundle_dir into output. Nothing is written unless every rule holds;
 // the package (and the version file of info_out) replace their targets only
-// once complete, so a failure leaves what was there before.
+// once complete, so a failure leaves what was there before. A bundle that
+// breaks the rules is refused as a whole: the first refusal is returned,
+// and refused, when given, receives all of them, one per offending entry.
 Status Pack(const std::string& bundle_dir, const std::string& output, const PackOptions& options,
-            PackageSummary* summary = nullptr);
+            PackageSummary* summary = nullptr, std::vector<Status>* refused = nullptr);
 
 // Reads the whole package, verifying its data, and applies the rules that
-// Pack applies plus the order of the last two entries. Touches nothing.
-Status Check(const std::string& package, PackageSummary* summary = nullptr);
+// Pack applies plus the order of the last two entries, reporting as Pack
+// does. Touches nothing.
+Status Check(const std::string& package, PackageSummary* summary = nullptr,
+             std::vector<Status>* refused = nullptr);
 
 // Checks a launcher bundle ("Calderix Drive.app"): its property list names
 // an executable in Contents/MacOS and carries the build as CFBundleVersion,
