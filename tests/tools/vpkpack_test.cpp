@@ -256,11 +256,11 @@ std::string Row(Error error, const std::string& entry)
 // line each.
 TEST_F(PackTest, RefusesEveryOffendingEntryInOneRun)
 {
-    const testsupport::ProcessResult change = testsupport::Run(
-        {"/bin/sh", "-ec",
-         "cd \"$0\"; ln -s /etc/passwd Contents/abs; mkfifo Contents/pipe; "
-         "chmod 644 Contents/MacOS/calderix-drive-ui; rm Contents/Resources/INFO",
-         bundle_});
+    const testsupport::ProcessResult change =
+        testsupport::Run({"/bin/sh", "-ec",
+                          "cd \"$0\"; ln -s /etc/passwd Contents/abs; mkfifo Contents/pipe; "
+                          "chmod 644 Contents/MacOS/calderix-drive-ui; rm Contents/Resources/INFO",
+                          bundle_});
     ASSERT_EQ(change.exit_code, 0) << change.err;
 
     std::vector<vpkpack::Status> refused;
@@ -337,8 +337,6 @@ TEST_F(PackTest, CheckRefusesEveryOffendingEntryInOneRun)
                                                          Row(Error::AbsoluteSymlink, "Contents/abs"),
                                                          Row(Error::UiNotExecutable, kUi)}));
 }
-
-
 
 INSTANTIATE_TEST_SUITE_P(
     Refusals, CheckRefusalTest,

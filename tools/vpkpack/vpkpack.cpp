@@ -446,7 +446,8 @@ Status Pack(const std::string& bundle_dir, const std::string& output, const Pack
         }
     }
     std::string ui_entry = layout::kUiEntry;
-    status = UiEntryFromPlist(plist, plist_entry != nullptr && plist_entry->type == EntryType::File, &ui_entry);
+    status =
+        UiEntryFromPlist(plist, plist_entry != nullptr && plist_entry->type == EntryType::File, &ui_entry);
     if (!status.ok()) {
         refusals.push_back(status);
     }
