@@ -164,8 +164,10 @@ TEST_P(LinuxOpen, StartsTheBundlesExecutableOnceOrSaysWhyNot)
                         : WriteFile(path, "not a program\n", f.back() == '!' ? 0755 : 0644))
             << path << ": " << strerror(errno);
     }
-    const std::string output = root_ + "/ui.log";
-    ASSERT_TRUE(WriteFile(output, "the last start's output\n")) << strerror(errno);
+    // The output file is made afresh, never written through what lies there.
+    const std::string output = root_ + "/ui.log", planted = root_ + "/planted";
+    ASSERT_TRUE(WriteFile(planted, "someone's file\n") && symlink(planted.c_str(), output.c_str()) == 0)
+        << strerror(errno);
 
     const int r = platform::SystemLaunchServices().Open(app_, output);
     EXPECT_EQ(r, c.error) << "got " << strerror(r) << ", want " << strerror(c.error);
@@ -175,6 +177,7 @@ TEST_P(LinuxOpen, StartsTheBundlesExecutableOnceOrSaysWhyNot)
     if (c.output != nullptr) {
         EXPECT_EQ(ReadFile(output), c.output);
     }
+    EXPECT_EQ(ReadFile(planted), "someone's file\n") << "written through the link at the output's place";
     if (c.started == nullptr) {
         EXPECT_TRUE(launchertest::ProcessesBelow(root_).empty()) << "something was started";
         return;
