@@ -11,19 +11,12 @@
 #include <gtest/gtest.h>
 
 #include "log.h"
+#include "test_rows.h"
 #include "test_support.h"
 
 namespace filetest {
 
 using namespace testsupport;
-
-// Names a table's cases by their rows' name field.
-struct RowName {
-    template <typename P> std::string operator()(const ::testing::TestParamInfo<P>& info) const
-    {
-        return info.param.name;
-    }
-};
 
 inline bool MakeLink(const std::string& target, const std::string& link)
 {
@@ -49,7 +42,8 @@ inline int RunAsNobody(const std::function<int()>& body)
 }
 
 // A fresh folder, named by its real path (canonical paths are compared with
-// it) and open to children run as nobody; the file module logs into it.
+// it) and open to children run as nobody; the file module logs into it at
+// its most verbose, so that every message is formatted.
 class FileTest : public ::testing::Test {
 protected:
     void SetUp() override
@@ -57,30 +51,12 @@ protected:
         char real[PATH_MAX];
         ASSERT_NE(nullptr, realpath(tmp_.path().c_str(), real)) << tmp_.path() << ": " << strerror(errno);
         root_ = real;
-        ASSERT_EQ(0, chmod(root_.c_str(), 0755)) << strerror(errno);
-        ASSERT_TRUE(WriteFile(P("levels"), "file_op_debug=7\n")) << strerror(errno);
+        ASSERT_TRUE(chmod(root_.c_str(), 0755) == 0 && WriteFile(P("levels"), "file_op_debug=7\n"));
         ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, P("test.log").c_str(), P("levels").c_str(), 50));
     }
     void TearDown() override { Logger::Destroy(); }
 
     std::string P(const std::string& relative) const { return root_ + "/" + relative; }
-
-    // Whether the log holds a line "<time> " + tag + " file-op(<line>): " + message.
-    ::testing::AssertionResult Logged(const std::string& tag, const std::string& message) const
-    {
-        const std::string log = ReadFile(P("test.log")), head = tag + " file-op(";
-        for (const std::string& line : testsupport::Lines(log)) {
-            const size_t digits =
-                line.find(head) == std::string::npos ? line.size() : line.find(head) + head.size();
-            const size_t close = line.find_first_not_of("0123456789", digits);
-            if (close != digits && close != std::string::npos &&
-                line.compare(close, std::string::npos, "): " + message) == 0)
-                return ::testing::AssertionSuccess();
-        }
-        return ::testing::AssertionFailure()
-               << "no log line \"" << tag << " file-op(N): " << message << "\" in:\n"
-               << log;
-    }
 
     testsupport::TempDir tmp_{"calderix-file"};
     std::string root_;
