@@ -8,8 +8,6 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
-#include <gtest/gtest.h>
-
 #include "log.h"
 #include "test_rows.h"
 #include "test_support.h"
