@@ -12,15 +12,8 @@ namespace {
 using namespace filetest;
 namespace fs = std::filesystem;
 
-bool IsFolder(const std::string& path)
-{
-    return fs::is_directory(fs::symlink_status(path));
-}
-
-unsigned ModeOf(const std::string& path)
-{
-    return static_cast<unsigned>(fs::symlink_status(path).permissions());
-}
+const auto IsFolder = [](const std::string& path) { return fs::is_directory(fs::symlink_status(path)); };
+const auto ModeOf = [](const std::string& path) { return unsigned(fs::symlink_status(path).permissions()); };
 
 // Every path below folder, relative to it, folders with a final "/".
 std::set<std::string> Listing(const std::string& folder)
@@ -172,12 +165,10 @@ TEST_F(FileTest, FSRemoveRemovesTreesAndLinksButNeverLinkTargetsAndStopsWhereRef
     EXPECT_EQ("k", ReadFile(P("kept/file"))) << "removal followed a link";
 
     // nobody owns "tree" but not "tree/a b", whose entries it may not remove.
-    ASSERT_TRUE(MakeTree(root_) && MakeDirs(P("closed"), 0700));
+    ASSERT_TRUE(MakeTree(root_));
     ASSERT_EQ(0, chown(P("tree").c_str(), 65534, 65534)) << strerror(errno);
     EXPECT_EQ(3, RunAsNobody([&] { return -FSRemove(P("tree"), false); })) << "result other than -3";
     EXPECT_EQ("1", ReadFile(P("tree/a b/one")));
-    EXPECT_EQ(0, RunAsNobody([&] { return -FSRemove(P("closed"), false); })) << "unlistable folder not 0";
-    EXPECT_TRUE(IsFolder(P("closed")));
 }
 
 TEST_F(FileTest, TemporaryFilesAndParents)

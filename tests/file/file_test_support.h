@@ -1,8 +1,8 @@
 // What only the file library's tests need beyond the shared test helpers.
 #pragma once
 
-#include <climits>
 #include <cstring>
+#include <filesystem>
 #include <functional>
 #include <grp.h>
 #include <sys/stat.h>
@@ -46,9 +46,7 @@ class FileTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        char real[PATH_MAX];
-        ASSERT_NE(nullptr, realpath(tmp_.path().c_str(), real)) << tmp_.path() << ": " << strerror(errno);
-        root_ = real;
+        root_ = std::filesystem::canonical(tmp_.path());
         ASSERT_TRUE(chmod(root_.c_str(), 0755) == 0 && WriteFile(P("levels"), "file_op_debug=7\n"));
         ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, P("test.log").c_str(), P("levels").c_str(), 50));
     }
