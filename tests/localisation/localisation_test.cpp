@@ -1,0 +1,182 @@
+// The string table, the compiled-in catalogues and the choice of language.
+#include <QCoreApplication>
+#include <QTranslator>
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstring>
+
+#include "KorvaneLocale.h"
+#include "strtable.h"
+#include "test_rows.h"
+#include "test_support.h"
+#include "texts.h"
+
+namespace {
+
+// The codes in id order, an independent copy of the language table.
+const char* const kCodes[] = {"enu", "cht", "chs", "jpn", "deu", "krn", "fra", "ita", "esn", "ptb",
+                              "rus", "dan", "nor", "sve", "nld", "plk", "hun", "ptg", "trk", "csy"};
+
+// The published key list, one key a line in id order: ids are part of the
+// client's contract. Keys match without regard to case.
+TEST(StrTable, KeysMatchThePublishedListInIdOrder)
+{
+    const std::vector<std::string> keys = testsupport::Lines(testsupport::ReadFile(CALDERIX_KEYS_FILE));
+    ASSERT_EQ(keys.size(), size_t(StrTable::StrCount)) << "cannot read the key list " << CALDERIX_KEYS_FILE;
+    for (int id = 0; id < StrTable::StrCount; ++id) {
+        EXPECT_EQ(StrTable::LookupStrID(QString::fromStdString(keys[id]).toUpper()), id)
+            << "key " << keys[id];
+    }
+    EXPECT_EQ(StrTable::LookupStrID(QStringLiteral("app")), -1) << "a key's prefix was taken for the key";
+    EXPECT_EQ(StrTable::LookupStrID(QString()), -1) << "the empty key was found";
+}
+
+// Answers every lookup in context "global" with one text; null: no answer.
+class FixedTranslator : public QTranslator {
+public:
+    explicit FixedTranslator(const char* answer) : answer_(answer) {}
+    QString translate(const char* context, const char*, const char*, int) const override
+    {
+        return qstrcmp(context, "global") == 0 ? QString::fromUtf8(answer_) : QString();
+    }
+    bool isEmpty() const override { return false; }
+
+private:
+    const char* answer_;
+};
+
+struct TextCase {
+    const char* name;
+    int id;
+    const char* translation;
+    const char* expected;
+};
+
+class Texts : public ::testing::TestWithParam<TextCase> {};
+
+TEST_P(Texts, LoadStrGivesTheTranslationWithEscapesExpanded)
+{
+    FixedTranslator translator(GetParam().translation);
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    const QString loaded = StrTable::LoadStr(GetParam().id);
+    QCoreApplication::removeTranslator(&translator);
+    EXPECT_EQ(loaded.toStdString(), GetParam().expected) << "row " << GetParam().id;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, Texts,
+    ::testing::Values(TextCase{"Preparing", StrTable::kStrPreparing, nullptr,
+                               "Calderix Drive is initializing..."},
+                      TextCase{"AppName", StrTable::kStrAppName, nullptr, "Calderix Drive"},
+                      TextCase{"Ready", StrTable::kStrReady, nullptr, "Calderix Drive is ready."},
+                      TextCase{"LineFeed", StrTable::kStrReady, "Bereit.\\nJetzt", "Bereit.\nJetzt"},
+                      TextCase{"EveryOccurrence", StrTable::kStrReady, "\\n1\\n2\\t3\\t", "\n1\n2\t3\t"},
+                      TextCase{"UpperCaseIsKept", StrTable::kStrReady, "a\\Nb\\Tc", "a\\Nb\\Tc"}),
+    testsupport::RowName());
+
+class Catalogue : public ::testing::TestWithParam<const char*> {};
+
+// Each compiled-in catalogue translates the launcher's texts but not the
+// product name; the English one changes no text at all.
+TEST_P(Catalogue, TranslatesTheLauncherTexts)
+{
+    const std::string code = GetParam();
+    std::vector<QString> english;
+    for (int id = 0; id < StrTable::StrCount; ++id) {
+        english.push_back(StrTable::LoadStr(id));
+    }
+    QTranslator translator;
+    ASSERT_TRUE(translator.load(QString::fromStdString(":/" + code + ".qm"))) << code << ": cannot be loaded";
+    QCoreApplication::installTranslator(&translator);
+    for (int id = 0; id < StrTable::StrCount; ++id) {
+        const QString text = StrTable::LoadStr(id);
+        if (code == "enu" || id == StrTable::kStrAppName) {
+            EXPECT_EQ(text, english[id]) << code << " changed row " << id << " to " << qPrintable(text);
+        } else if (id == StrTable::kStrPreparing || id == StrTable::kStrReady) {
+            EXPECT_NE(text, english[id]) << code << " left row " << id << " in English";
+        }
+    }
+    QCoreApplication::removeTranslator(&translator);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, Catalogue, ::testing::ValuesIn(kCodes), testsupport::RowName());
+
+TEST(Languages, EveryCodeInIdOrderWithItsCatalogue)
+{
+    EXPECT_EQ(KorvaneLocale::getSupportedLanguages().join(' ').toStdString(),
+              "enu cht chs jpn deu krn fra ita esn ptb rus dan nor sve nld plk hun ptg trk csy");
+    for (int id = -1; id <= 21; ++id) {
+        const QString code = id >= 0 && id < 20 ? QString::fromLatin1(kCodes[id]) : QString();
+        EXPECT_EQ(KorvaneLocale::getLanguageAbbrByID(id), code) << "id " << id;
+        EXPECT_EQ(KorvaneLocale::isLanguageInstalled(code), !code.isEmpty()) << "id " << id;
+    }
+    EXPECT_FALSE(KorvaneLocale::isLanguageInstalled(QStringLiteral("DEU")))
+        << "catalogue names differ in case";
+}
+
+struct LocaleCase {
+    const char* name;
+    const char* locale;
+    const char* code;
+    // The test binary's mode that prints the choice for the locale of its
+    // environment; none: the name is handed to getLanguageForLocaleName.
+    const char* probe = "--probe";
+};
+
+class Locale : public ::testing::TestWithParam<LocaleCase> {};
+
+TEST_P(Locale, ChoosesTheLanguage)
+{
+    const LocaleCase& c = GetParam();
+    if (c.probe == nullptr) {
+        EXPECT_EQ(KorvaneLocale::getLanguageForLocaleName(QString::fromLatin1(c.locale)).toStdString(),
+                  c.code)
+            << "locale name '" << c.locale << "'";
+        return;
+    }
+    using testsupport::Set;
+    const testsupport::ProcessResult r =
+        testsupport::Run({"/proc/self/exe", c.probe},
+                         {Set("LC_ALL", c.locale), Set("LANG", c.locale), testsupport::Unset("LANGUAGE"),
+                          testsupport::Unset("QT_LOGGING_RULES"), Set("QT_FORCE_STDERR_LOGGING", "1")});
+    ASSERT_TRUE(r.exited && r.exit_code == 0) << "probe for '" << c.locale << "': " << r.err;
+    EXPECT_EQ(r.out, std::string(c.code) + "\n") << "locale '" << c.locale << "'";
+    EXPECT_NE(r.err.find(std::string("qPrintable(qstrDef)=[") + c.code + "] "), std::string::npos)
+        << "no trace of the result for '" << c.locale << "': " << r.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Locales, Locale,
+    ::testing::Values(
+        LocaleCase{"zh_TW", "zh_TW.UTF-8", "cht"}, LocaleCase{"zh_HK", "zh_HK", "cht"},
+        LocaleCase{"zh_MO", "zh_MO", "cht"}, LocaleCase{"zh_CN", "zh_CN.UTF-8", "chs"},
+        LocaleCase{"pt_PT", "pt_PT.UTF-8", "ptg"}, LocaleCase{"pt_BR", "pt_BR", "ptb"},
+        LocaleCase{"nb_NO", "nb_NO", "nor"}, LocaleCase{"nn_NO", "nn_NO", "nor"},
+        LocaleCase{"Posix", "POSIX", "enu"}, LocaleCase{"ar_SA", "ar_SA.UTF-8", "enu"},
+        LocaleCase{"ja_JP", "ja_JP.UTF-8", "jpn"}, LocaleCase{"de_AT", "de_AT", "deu"},
+        LocaleCase{"cs_CZ", "cs_CZ", "csy"},
+        LocaleCase{"de_DE_CataloguesRemoved", "de_DE.UTF-8", "enu", "--probe-without-catalogues"},
+        LocaleCase{"pt", "pt", "ptg", nullptr}, LocaleCase{"zh_twn_OnlyWholeNames", "zh_twn", "chs", nullptr},
+        LocaleCase{"ptx_OnlyWholeNames", "ptx", "enu", nullptr}, LocaleCase{"Empty", "", "enu", nullptr}),
+    testsupport::RowName());
+
+} // namespace
+
+// Translators can only be installed while an application object exists.
+// With --probe the binary prints the language chosen for its environment's
+// locale instead (--probe-without-catalogues: as if none were built in).
+int main(int argc, char** argv)
+{
+    qInitResources_texts();
+    if (argc > 1 && std::strncmp(argv[1], "--probe", 7) == 0) {
+        if (std::strcmp(argv[1], "--probe-without-catalogues") == 0) {
+            qCleanupResources_texts();
+        }
+        return std::printf("%s\n", qPrintable(KorvaneLocale::getDefaultLanguage())) > 0 ? 0 : 2;
+    }
+    ::testing::InitGoogleTest(&argc, argv);
+    QCoreApplication app(argc, argv);
+    StrTable::InitStrTable();
+    return RUN_ALL_TESTS();
+}
