@@ -1,67 +1,48 @@
 // Shared by the fuzz targets: a check that says what went wrong before it
 // aborts (so that libFuzzer keeps the input as a crash file), a scratch
-// folder per process and file writing.
+// folder and file writing.
 #pragma once
 
+#include <algorithm>
 #include <cerrno>
+#include <climits>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <ftw.h>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <unistd.h>
 
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size);
-
 #define FUZZ_CHECK(cond, ...)                                                                                \
-    do {                                                                                                     \
-        if (!(cond)) {                                                                                       \
-            std::fprintf(stderr, "\nFUZZ CHECK FAILED at %s:%d: ", __FILE__, __LINE__);                      \
-            std::fprintf(stderr, __VA_ARGS__);                                                               \
-            std::fprintf(stderr, "\n");                                                                      \
-            std::abort();                                                                                    \
-        }                                                                                                    \
-    } while (0)
+    ((cond) ? void()                                                                                         \
+            : (std::fprintf(stderr, "\nFUZZ CHECK FAILED at %s:%d: ", __FILE__, __LINE__),                   \
+               std::fprintf(stderr, __VA_ARGS__), std::fputc('\n', stderr), std::abort()))
 
 namespace fuzzsupport {
 
-inline int RemoveEntry(const char* path, const struct stat*, int, struct FTW*)
+// A path in a scratch folder below TMPDIR (or /tmp): one folder per
+// process, removed with its contents when the program ends.
+inline std::string Scratch(const std::string& name)
 {
-    return std::remove(path);
+    static const struct Dir {
+        const char* base = std::getenv("TMPDIR");
+        std::string path =
+            std::string(base != nullptr && *base != '\0' ? base : "/tmp") + "/calderix-fuzz-XXXXXX";
+        Dir() { FUZZ_CHECK(mkdtemp(&path[0]) != nullptr, "cannot create %s", path.c_str()); }
+        ~Dir() { std::filesystem::remove_all(path); }
+    } dir;
+    return dir.path + "/" + name;
 }
 
-// A fresh folder below TMPDIR (or /tmp), removed with its contents when the
-// process that made it exits normally. libFuzzer runs the inputs one after
-// the other in one process, so one folder per process is enough.
-class ScratchDir {
-public:
-    ScratchDir()
-    {
-        const char* base = std::getenv("TMPDIR");
-        path_ = std::string(base != nullptr && *base != '\0' ? base : "/tmp") + "/calderix-fuzz-XXXXXX";
-        FUZZ_CHECK(mkdtemp(&path_[0]) != nullptr, "cannot create %s: %s", path_.c_str(),
-                   std::strerror(errno));
-    }
-    ~ScratchDir()
-    {
-        if (getpid() == owner_) {
-            nftw(path_.c_str(), RemoveEntry, 16, FTW_DEPTH | FTW_PHYS);
-        }
-    }
-    const std::string& path() const { return path_; }
-
-private:
-    std::string path_;
-    const pid_t owner_ = getpid();
-};
-
-inline void WriteFile(const std::string& path, const void* data, size_t size)
+// Writes bytes to path, making its folder first.
+inline void WriteFile(const std::string& path, const std::string& bytes)
 {
-    FILE* fp = std::fopen(path.c_str(), "wb");
-    const bool written = fp != nullptr && (size == 0 || std::fwrite(data, 1, size, fp) == size);
-    FUZZ_CHECK(fp != nullptr && std::fclose(fp) == 0 && written, "cannot write %s: %s", path.c_str(),
-               std::strerror(errno));
+    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
+    std::ofstream out(path, std::ios::binary | std::ios::trunc);
+    FUZZ_CHECK(out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush(), "cannot write %s",
+               path.c_str());
 }
 
 } // namespace fuzzsupport
