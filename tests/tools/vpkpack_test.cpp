@@ -226,6 +226,8 @@ INSTANTIATE_TEST_SUITE_P(
         PackRefusal{"build_version_not_a_number",
                     "printf '[Version]\\nbuild_version=12a\\n' >Contents/Resources/INFO",
                     Error::BadBuildVersion, kInfoName},
+        PackRefusal{"build_version_zero", "printf '[Version]\\nbuild_version=0\\n' >Contents/Resources/INFO",
+                    Error::BadBuildVersion, kInfoName},
         PackRefusal{"missing_ui", "rm Contents/MacOS/calderix-drive-ui", Error::MissingUi, kUi},
         PackRefusal{"ui_not_executable", "chmod 644 Contents/MacOS/calderix-drive-ui", Error::UiNotExecutable,
                     kUi},
