@@ -5,6 +5,18 @@
 #include <memory>
 #include <random>
 
+namespace {
+
+using Handle = std::unique_ptr<archive, int (*)(archive*)>;
+
+::testing::AssertionResult Failure(archive* a, const std::string& what)
+{
+    const char* text = archive_error_string(a);
+    return ::testing::AssertionFailure() << what << ": " << (text != nullptr ? text : "(no message)");
+}
+
+} // namespace
+
 std::string FormatName(ArchiveFormat format)
 {
     return format == ArchiveFormat::Tar ? "tar" : format == ArchiveFormat::TarGz ? "tar_gz" : "zip";
@@ -13,38 +25,64 @@ std::string FormatName(ArchiveFormat format)
 ::testing::AssertionResult WriteArchive(const std::string& path, ArchiveFormat format,
                                         const std::vector<ArchiveItem>& items)
 {
-    const std::unique_ptr<archive, int (*)(archive*)> writer(archive_write_new(), archive_write_free);
+    const Handle writer(archive_write_new(), archive_write_free);
     archive* a = writer.get();
-    if (a == nullptr)
-        return ::testing::AssertionFailure() << "archive_write_new failed";
-    const auto failure = [&](const std::string& what) {
-        const char* text = archive_error_string(a);
-        return ::testing::AssertionFailure()
-               << path << ": " << what << ": " << (text ? text : "(no message)");
-    };
-    const int setup = format == ArchiveFormat::Zip ? archive_write_set_format_zip(a)
-                                                   : archive_write_set_format_pax_restricted(a);
-    if (setup != ARCHIVE_OK ||
-        (format == ArchiveFormat::TarGz && archive_write_add_filter_gzip(a) != ARCHIVE_OK))
-        return failure(FormatName(format) + " writer setup");
-    if (archive_write_open_filename(a, path.c_str()) != ARCHIVE_OK)
-        return failure("open");
+    if ((format == ArchiveFormat::Zip ? archive_write_set_format_zip(a)
+                                      : archive_write_set_format_pax_restricted(a)) != ARCHIVE_OK ||
+        (format == ArchiveFormat::TarGz && archive_write_add_filter_gzip(a) != ARCHIVE_OK) ||
+        archive_write_open_filename(a, path.c_str()) != ARCHIVE_OK)
+        return Failure(a, path + ": opening as " + FormatName(format));
     for (const ArchiveItem& item : items) {
         const std::unique_ptr<archive_entry, void (*)(archive_entry*)> entry(archive_entry_new(),
                                                                              archive_entry_free);
-        archive_entry_set_pathname(entry.get(), item.path.c_str());
-        archive_entry_set_filetype(entry.get(), item.folder ? AE_IFDIR : AE_IFREG);
-        archive_entry_set_perm(entry.get(), item.perm);
-        archive_entry_set_size(entry.get(), static_cast<la_int64_t>(item.data.size()));
-        archive_entry_set_mtime(entry.get(), item.mtime, 0);
-        archive_entry_set_uid(entry.get(), item.uid);
-        if (archive_write_header(a, entry.get()) != ARCHIVE_OK)
-            return failure("header of '" + item.path + "'");
-        if (!item.data.empty() && archive_write_data(a, item.data.data(), item.data.size()) !=
-                                      static_cast<la_ssize_t>(item.data.size()))
-            return failure("data of '" + item.path + "'");
+        archive_entry* e = entry.get();
+        archive_entry_set_pathname(e, item.path.c_str());
+        archive_entry_set_filetype(e, item.kind == 'd' ? AE_IFDIR : item.kind == 'l' ? AE_IFLNK : AE_IFREG);
+        archive_entry_set_perm(e, item.perm);
+        archive_entry_set_size(e, static_cast<la_int64_t>(item.data.size()));
+        archive_entry_set_mtime(e, item.mtime, 0);
+        archive_entry_set_uid(e, item.uid);
+        if (item.kind == 'l') {
+            archive_entry_set_symlink(e, item.link.c_str());
+        } else if (item.kind == 'h')
+            archive_entry_set_hardlink(e, item.link.c_str());
+        if (archive_write_header(a, e) != ARCHIVE_OK ||
+            archive_write_data(a, item.data.data(), item.data.size()) < 0)
+            return Failure(a, path + ": " + item.path);
     }
-    return archive_write_close(a) == ARCHIVE_OK ? ::testing::AssertionSuccess() : failure("closing");
+    return archive_write_close(a) == ARCHIVE_OK ? ::testing::AssertionSuccess() : Failure(a, path);
+}
+
+::testing::AssertionResult ReadArchive(const std::string& path, std::vector<ArchiveItem>* items)
+{
+    const Handle reader(archive_read_new(), archive_read_free);
+    archive* a = reader.get();
+    archive_read_support_filter_all(a);
+    archive_read_support_format_all(a);
+    if (archive_read_open_filename(a, path.c_str(), 10240) != ARCHIVE_OK)
+        return Failure(a, path);
+    archive_entry* e = nullptr;
+    int r;
+    while ((r = archive_read_next_header(a, &e)) == ARCHIVE_OK) {
+        const unsigned type = archive_entry_filetype(e);
+        const char* hardlink = archive_entry_hardlink(e);
+        const char* link = hardlink != nullptr ? hardlink : archive_entry_symlink(e);
+        const char* uname = archive_entry_uname(e);
+        items->push_back({archive_entry_pathname(e), "",
+                          hardlink != nullptr ? 'h'
+                          : type == AE_IFDIR  ? 'd'
+                          : type == AE_IFLNK  ? 'l'
+                                              : 'f',
+                          archive_entry_perm(e), link != nullptr ? link : "", archive_entry_mtime(e),
+                          archive_entry_uid(e), archive_entry_gid(e), uname != nullptr ? uname : ""});
+        char buffer[8192];
+        la_ssize_t n;
+        while ((n = archive_read_data(a, buffer, sizeof buffer)) > 0)
+            items->back().data.append(buffer, static_cast<size_t>(n));
+        if (n < 0)
+            return Failure(a, path + ": data of " + items->back().path);
+    }
+    return r == ARCHIVE_EOF ? ::testing::AssertionSuccess() : Failure(a, path);
 }
 
 std::string NoiseBytes(size_t size, unsigned seed)

@@ -6,9 +6,8 @@
 
 #include <gtest/gtest.h>
 
-#include "service_fixture.h"
+#include "test_rows.h"
 #include "test_support.h"
-#include "vpkpack.h"
 
 using testsupport::EnvChange;
 using testsupport::ReadFile;
@@ -17,108 +16,65 @@ using testsupport::Set;
 namespace {
 
 // The demo executable in a bundle of its own, as the package installs it,
-// and a home without any ~/.Calderix yet.
-class DemoUiTest : public ::testing::Test {
-protected:
-    void SetUp() override
-    {
-        ASSERT_TRUE(testsupport::MakeDirs(home_)) << std::strerror(errno);
-        ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/Contents/MacOS")) << std::strerror(errno);
-        ASSERT_TRUE(testsupport::CopyTree(DEMO_UI_BIN, ui_)) << ui_ << ": " << std::strerror(errno);
-        ASSERT_TRUE(testsupport::CopyTree(DEMO_UI_DIR "/Info.plist", bundle_ + "/Contents/Info.plist"));
-        ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/Contents/Resources"));
-        ASSERT_TRUE(
-            testsupport::WriteFile(bundle_ + "/Contents/Resources/INFO", "[Version]\nbuild_version=1201\n"));
-    }
-
-    std::vector<EnvChange> Env(std::vector<EnvChange> extra = {})
-    {
-        extra.insert(extra.begin(), {Set("HOME", home_), Set("QT_QPA_PLATFORM", "offscreen")});
-        return extra;
-    }
-
-    testsupport::TempDir tmp_{"demo-ui-test"};
-    const std::string home_ = tmp_ / "home";
-    const std::string bundle_ = tmp_ / "Calderix.app";
-    const std::string ui_ = bundle_ + "/Contents/MacOS/calderix-drive-ui";
-    const std::string pid_file_ = home_ + "/.Calderix/ui.pid";
-};
-
-struct Stop {
+// and a home without any ~/.Calderix yet; sig 0 runs it without a signal.
+struct DemoRun {
     const char* name;
-    int signal;
+    int sig;
     bool newer_instance; // another instance has taken the pid file over meanwhile
+    EnvChange env{};
+    int exit_code = 0;
+    const char* stderr_part = "";
 };
 
-class DemoUiStopTest : public DemoUiTest, public ::testing::WithParamInterface<Stop> {};
+class DemoUiTest : public ::testing::TestWithParam<DemoRun> {};
 
-TEST_P(DemoUiStopTest, QuitsCleanlyAndRemovesOnlyItsOwnPidFile)
+TEST_P(DemoUiTest, EndsCleanlyAndRemovesOnlyItsOwnPidFile)
 {
-    const Stop& row = GetParam();
-    const std::string out = tmp_ / "stdout", err = tmp_ / "stderr";
-    const pid_t child = testsupport::Start({ui_}, Env(), out, err);
+    const DemoRun& row = GetParam();
+    testsupport::TempDir tmp{"demo-ui-test"};
+    const std::string ui = tmp / "Calderix.app/Contents/MacOS/calderix-drive-ui",
+                      pid_file = tmp / ".Calderix/ui.pid";
+    ASSERT_TRUE(testsupport::MakeDirs(tmp / "Calderix.app/Contents/MacOS") &&
+                testsupport::MakeDirs(tmp / "Calderix.app/Contents/Resources") &&
+                testsupport::CopyTree(DEMO_UI_BIN, ui) &&
+                testsupport::WriteFile(tmp / "Calderix.app/Contents/Resources/INFO",
+                                       "[Version]\nbuild_version=1201\n"))
+        << std::strerror(errno);
+    std::vector<EnvChange> env{Set("HOME", tmp.path()), Set("QT_QPA_PLATFORM", "offscreen")};
+    if (row.sig == 0) {
+        env.push_back(row.env);
+        const testsupport::ProcessResult result = testsupport::Run({ui}, env);
+        EXPECT_TRUE(result.exited) << "signal " << result.term_signal;
+        EXPECT_EQ(row.exit_code, result.exit_code) << result.err;
+        EXPECT_NE(std::string::npos, result.err.find(row.stderr_part)) << result.err;
+        EXPECT_FALSE(testsupport::Exists(pid_file)) << pid_file;
+        return;
+    }
+    const pid_t child = testsupport::Start({ui}, env, tmp / "out", tmp / "err");
     ASSERT_GT(child, 0) << "fork: " << std::strerror(errno);
     // Nothing announces the pid file; the bound only ends a hung run.
     const std::string want = "pid=" + std::to_string(child) + "\n";
-    for (int i = 0; i < 6000 && ReadFile(pid_file_) != want && waitpid(child, nullptr, WNOHANG) == 0; ++i) {
+    for (int i = 0; i < 6000 && ReadFile(pid_file) != want && waitpid(child, nullptr, WNOHANG) == 0; ++i)
         usleep(10000);
-    }
-    ASSERT_EQ(want, ReadFile(pid_file_)) << ReadFile(err);
-    if (row.newer_instance) {
-        ASSERT_TRUE(testsupport::WriteFile(pid_file_, "pid=1\n")) << std::strerror(errno);
-    }
-    ASSERT_EQ(0, kill(child, row.signal)) << std::strerror(errno);
+    ASSERT_EQ(want, ReadFile(pid_file)) << ReadFile(tmp / "err");
+    ASSERT_TRUE(!row.newer_instance || testsupport::WriteFile(pid_file, "pid=1\n")) << std::strerror(errno);
+    ASSERT_EQ(0, kill(child, row.sig)) << std::strerror(errno);
     const int status = testsupport::Wait(child);
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0)
-        << "status " << status << ": " << ReadFile(err);
-    EXPECT_EQ(row.newer_instance, testsupport::Exists(pid_file_)) << pid_file_;
-    EXPECT_EQ(row.newer_instance ? "pid=1\n" : "", ReadFile(pid_file_))
-        << "another instance's pid file was removed";
-    EXPECT_EQ("Calderix Drive build 1201 is running\n", ReadFile(out));
+        << "status " << status << ": " << ReadFile(tmp / "err");
+    EXPECT_EQ(row.newer_instance ? "pid=1\n" : "", ReadFile(pid_file)) << "the wrong pid file went or stayed";
+    EXPECT_EQ("Calderix Drive build 1201 is running\n", ReadFile(tmp / "out"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Signals, DemoUiStopTest,
-                         ::testing::Values(Stop{"sigterm", SIGTERM, false}, Stop{"sigint", SIGINT, false},
-                                           Stop{"sighup", SIGHUP, false},
-                                           Stop{"sigterm_newer_instance", SIGTERM, true}),
-                         servicetest::RowName<Stop>);
-
-struct Unattended {
-    const char* name;
-    EnvChange env;
-    int exit_code;
-    const char* stderr_part;
-};
-
-class DemoUiRunTest : public DemoUiTest, public ::testing::WithParamInterface<Unattended> {};
-
-TEST_P(DemoUiRunTest, EndsByItselfWithoutLeavingAPidFile)
-{
-    const testsupport::ProcessResult result = testsupport::Run({ui_}, Env({GetParam().env}));
-    EXPECT_TRUE(result.exited) << "signal " << result.term_signal;
-    EXPECT_EQ(GetParam().exit_code, result.exit_code) << result.err;
-    EXPECT_NE(std::string::npos, result.err.find(GetParam().stderr_part)) << result.err;
-    EXPECT_FALSE(testsupport::Exists(pid_file_)) << pid_file_;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Runs, DemoUiRunTest,
-    ::testing::Values(Unattended{"exit_after_delay", Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "0"), 0, ""},
-                      Unattended{"bad_exit_delay", Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "soon"), 2,
-                                 "CALDERIX_DEMO_UI_EXIT_AFTER_MS is not a number of milliseconds: 'soon'"},
-                      // No one, root included, may create folders in /proc/self.
-                      Unattended{"unwritable_home", Set("HOME", "/proc/self"), 1, "cannot create folder"}),
-    servicetest::RowName<Unattended>);
-
-TEST_F(DemoUiTest, BundlePacksIntoAPackageTheLauncherAccepts)
-{
-    const std::string package = tmp_ / "calderix.vpk";
-    vpkpack::PackageSummary summary;
-    const vpkpack::Status packed = vpkpack::Pack(bundle_, package, {}, &summary);
-    ASSERT_TRUE(packed.ok()) << packed.Message();
-    EXPECT_EQ(1201, summary.version.build);
-    const vpkpack::Status checked = vpkpack::Check(package);
-    EXPECT_TRUE(checked.ok()) << checked.Message();
-}
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Runs, DemoUiTest, ::testing::ValuesIn(std::vector<DemoRun>{
+    {"sigterm", SIGTERM, false}, {"sigint", SIGINT, false}, {"sighup", SIGHUP, false},
+    {"sigterm_newer_instance", SIGTERM, true},
+    {"exit_after_delay", 0, false, Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "0")},
+    {"bad_exit_delay", 0, false, Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "soon"), 2, "is not a number of milliseconds: 'soon'"},
+    // No one, root included, may create folders in /proc/self.
+    {"unwritable_home", 0, false, Set("HOME", "/proc/self"), 1, "cannot create folder"},
+}), testsupport::RowName());
+// clang-format on
 
 } // namespace
