@@ -1,0 +1,291 @@
+// Upgrades that cannot go through, each a whole launcher run: a package cut
+// short or with a flipped byte, a write error a user's machine really gives
+// part-way (a file size limit, a folder that turns read-only),
+// a package written by hand to escape the user's bundle or to leave them
+// without a working copy, and something other than a plain file at each
+// place the launcher reads or appends to. The launcher must not crash or
+// hang (the sanitizer build runs the same rows), must put the old copy
+// back as it was (or on a first installation report that there is none),
+// and must touch nothing outside ~/.Calderix.
+#include <archive.h>
+#include <archive_entry.h>
+#include <ftw.h>
+#include <functional>
+#include <grp.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+
+#include "reliability_fixture.h"
+
+using namespace testsupport;
+
+namespace {
+
+const char kNoRollback[] =
+    "[ERROR] calderix-service(%d): Failed to extract package, and no old installation to rollback";
+// About three hundred and thirty entries, each data file below a page; the
+// user interface's executable, the largest file, comes second to last.
+constexpr int kFolders = 20;
+constexpr int kFilesPerFolder = 15;
+constexpr uid_t kNobody = 65534;
+
+// One entry of a package written by hand: type AE_IFREG (a hard link to
+// data when hard), AE_IFDIR, AE_IFLNK (to data), AE_IFIFO, AE_IFCHR (as
+// /dev/zero), or 0 to leave the name out. "@" in name and data stands for a
+// folder outside the home.
+struct PackEntry {
+    std::string name;
+    unsigned type = AE_IFREG;
+    std::string data = {};
+    mode_t perm = 0644;
+    bool hard = false;
+};
+
+// A ustar/pax package at path without vpkpack's rules or ordering: the
+// client's Info.plist and folders, entries, then the client's UI and version
+// file unless entries name them; "@" starts a name or data for outside.
+::testing::AssertionResult WritePackage(const std::string& path, const std::string& client,
+                                        const std::string& outside, std::vector<PackEntry> entries)
+{
+    entries.insert(entries.begin(),
+                   {{"Contents", AE_IFDIR, {}, 0755},
+                    {"Contents/Info.plist", AE_IFREG, ReadFile(client + "/Contents/Info.plist")},
+                    {"Contents/MacOS", AE_IFDIR, {}, 0755},
+                    {"Contents/Resources", AE_IFDIR, {}, 0755}});
+    for (const char* file : {"Contents/MacOS/calderix-drive-ui", "Contents/Resources/INFO"}) {
+        if (std::none_of(entries.begin(), entries.end(),
+                         [file](const PackEntry& e) { return e.name == file; })) {
+            entries.push_back(
+                {file, AE_IFREG, ReadFile(client + "/" + file), strstr(file, "MacOS") ? 0755u : 0644u});
+        }
+    }
+    archive* a = archive_write_new();
+    bool ok = archive_write_set_format_pax_restricted(a) == ARCHIVE_OK &&
+              archive_write_open_filename(a, path.c_str()) == ARCHIVE_OK;
+    for (auto e = entries.begin(); ok && e != entries.end(); ++e) {
+        for (std::string* text : {&e->name, &e->data}) {
+            *text = text->empty() || (*text)[0] != '@' ? *text : outside + text->substr(1);
+        }
+        const bool content = e->type == AE_IFREG && !e->hard;
+        archive_entry* entry = archive_entry_new();
+        archive_entry_set_pathname(entry, e->name.c_str());
+        archive_entry_set_mtime(entry, 1500000000, 0);
+        archive_entry_set_filetype(entry, e->type);
+        archive_entry_set_perm(entry, e->perm);
+        archive_entry_set_rdev(entry, e->type == AE_IFCHR ? makedev(1, 5) : 0);
+        archive_entry_set_symlink(entry, e->type == AE_IFLNK ? e->data.c_str() : nullptr);
+        archive_entry_set_hardlink(entry, e->hard ? e->data.c_str() : nullptr);
+        archive_entry_set_size(entry, content ? static_cast<la_int64_t>(e->data.size()) : 0);
+        ok = e->type == 0 || (archive_write_header(a, entry) == ARCHIVE_OK &&
+                              (!content || e->data.empty() ||
+                               archive_write_data(a, e->data.data(), e->data.size()) ==
+                                   static_cast<la_ssize_t>(e->data.size())));
+        archive_entry_free(entry);
+    }
+    const std::string error = archive_error_string(a) != nullptr ? archive_error_string(a) : "short write";
+    ok = archive_write_close(a) == ARCHIVE_OK && ok;
+    archive_write_free(a);
+    return ok ? ::testing::AssertionSuccess() : ::testing::AssertionFailure() << path << ": " << error;
+}
+
+enum class Fault { Cut, Flip, FileSizeLimit, ReadOnlyFolder, Hostile };
+
+struct FaultRow {
+    const char* name;
+    Fault fault;
+    int per_mille;                       // Cut and Flip: the place as a share of the package's size,
+    int from_end;                        // then moved this many bytes back (or, below 0, forward)
+    bool first_time = false;             // no installed copy
+    const char* reason = nullptr;        // the start of libarchive's text in the extractor's error line
+    std::vector<PackEntry> entries = {}; // Hostile: ahead of the client's UI and version file unless named
+    vpkpack::Error check = {};           // Hostile: what vpkpack --check says
+};
+
+class PackageFault : public ReliabilityFixture, public ::testing::WithParamInterface<FaultRow> {};
+
+TEST_P(PackageFault, OldCopyComesBackOrFirstInstallationReportsIt)
+{
+    const FaultRow& row = GetParam();
+    if (!row.first_time) {
+        InstallCopy("1200");
+    }
+    // Something of the user's beside the home, for packages that try to reach it.
+    const std::string outside = root_ + "/outside";
+    ASSERT_TRUE(MakeDirs(outside) && WriteFile(outside + "/target.txt", "the user's file\n"))
+        << strerror(errno);
+    const int total = PackClient("1201", kFolders, kFilesPerFolder);
+    std::string data = ReadFile(package_);
+    const long size = static_cast<long>(data.size());
+    const size_t at =
+        static_cast<size_t>(std::clamp(size * row.per_mille / 1000 - row.from_end, 0L, size - 1));
+    if (row.fault == Fault::Flip) {
+        data[at] = static_cast<char>(data[at] ^ 0xff);
+    } else if (row.fault == Fault::Cut) {
+        data.resize(at);
+    }
+    ASSERT_TRUE(total > 300 && WriteFile(package_, data)) << package_ << ": " << total << " entries";
+    if (row.fault == Fault::Hostile) {
+        ASSERT_TRUE(
+            WritePackage(package_, ClientBundle("1201", kFolders, kFilesPerFolder), outside, row.entries));
+        const vpkpack::Status check = vpkpack::Check(package_);
+        EXPECT_EQ(check.error, row.check)
+            << "vpkpack --check: " << (check.ok() ? "accepted" : check.Message());
+    }
+    std::vector<EnvChange> env = Env(home_);
+    std::function<void()> before_exec;
+    if (row.fault == Fault::FileSizeLimit) {
+        // Every data file fits, the user interface's executable does not.
+        const rlim_t limit = ReadFile(DEMO_UI_PATH).size() / 2;
+        before_exec = [limit] {
+            const struct rlimit r = {limit, limit};
+            if (setrlimit(RLIMIT_FSIZE, &r) != 0 || signal(SIGXFSZ, SIG_IGN) == SIG_ERR) {
+                perror("RLIMIT_FSIZE");
+                _exit(127);
+            }
+        };
+    } else if (row.fault == Fault::ReadOnlyFolder) {
+        env = ShimEnv(KILL_SHIM, "chmod:" + std::to_string(total / 2));
+        // Root writes into read-only folders all the same: the launcher runs
+        // as nobody, in a tree that nobody owns.
+        if (geteuid() == 0) {
+            const auto give = [](const char* path, const struct stat*, int, FTW*) {
+                return lchown(path, kNobody, kNobody);
+            };
+            ASSERT_EQ(nftw(root_.c_str(), give, 16, FTW_PHYS), 0) << root_ << ": " << strerror(errno);
+            before_exec = [] {
+                if (setgroups(0, nullptr) != 0 || setgid(kNobody) != 0 || setuid(kNobody) != 0) {
+                    perror("dropping root");
+                    _exit(127);
+                }
+            };
+        }
+    }
+    const reliability::Tree before = reliability::Snapshot(app_), user = Outside(),
+                            beyond = reliability::Snapshot(outside);
+
+    ExpectCleanExit(testsupport::Run({launcher_}, env, before_exec));
+    const std::string log = ReadFile(LogPath());
+    EXPECT_EQ(LogCount(row.first_time ? kNoRollback : reliability::kRollback), 1)
+        << row.name << " at byte " << at << " of " << size << "\n"
+        << log;
+    EXPECT_TRUE(row.reason == nullptr ||
+                log.find(std::string("): archive_read_extract2 failed: '") + row.reason) != std::string::npos)
+        << "no reason given in\n"
+        << log;
+    EXPECT_EQ(Outside(), user) << "something outside ~/.Calderix changed";
+    EXPECT_TRUE(reliability::SameTree(beyond, reliability::Snapshot(outside)))
+        << "the package wrote outside the home";
+    EXPECT_FALSE(Exists(install_ + "/escape.txt")) << "an entry escaped into ~/.Calderix";
+    EXPECT_TRUE(Backups().empty()) << "a backup stayed: " << Backups().front();
+    if (!row.first_time) {
+        EXPECT_TRUE(reliability::SameTree(before, reliability::Snapshot(app_)))
+            << "the old copy is not back as it was";
+        ExpectUiStartedOnce();
+    }
+}
+
+// A row of a package written by hand.
+FaultRow Hostile(const char* name, vpkpack::Error check, std::vector<PackEntry> entries)
+{
+    return FaultRow{name, Fault::Hostile, 0, 0, false, nullptr, std::move(entries), check};
+}
+
+const char kUi[] = "Contents/MacOS/calderix-drive-ui";
+
+INSTANTIATE_TEST_SUITE_P(
+    Faults, PackageFault,
+    ::testing::Values(
+        FaultRow{"cut_to_empty", Fault::Cut, 0, 0}, FaultRow{"cut_in_frame_header", Fault::Cut, 0, -6},
+        FaultRow{"cut_at_half", Fault::Cut, 500, 0}, FaultRow{"cut_last_byte", Fault::Cut, 1000, 1},
+        FaultRow{"flip_magic", Fault::Flip, 0, 0}, FaultRow{"flip_frame_header", Fault::Flip, 0, -5},
+        FaultRow{"flip_at_a_third", Fault::Flip, 333, 0}, FaultRow{"flip_last_byte", Fault::Flip, 1000, 1},
+        FaultRow{"first_time_cut_at_half", Fault::Cut, 500, 0, true},
+        FaultRow{"first_time_flip_at_a_third", Fault::Flip, 333, 0, true},
+        FaultRow{"file_size_limit", Fault::FileSizeLimit, 0, 0, false, "Write"},
+        FaultRow{"read_only_folder", Fault::ReadOnlyFolder, 0, 0, false, "Can't create '"},
+        Hostile("dot_dot_name", vpkpack::Error::DotDotName, {{"Contents/../../escape.txt"}}),
+        Hostile("absolute_symlink_then_entry_through_it", vpkpack::Error::BelowSymlink,
+                {{"Contents/out", AE_IFLNK, "@", 0777}, {"Contents/out/evil.txt"}}),
+        Hostile("relative_symlink_then_entry_through_it", vpkpack::Error::BelowSymlink,
+                {{"Contents/up", AE_IFLNK, "../../../../outside", 0777}, {"Contents/up/evil.txt"}}),
+        Hostile("hard_link_to_a_file_outside", vpkpack::Error::HardLink,
+                {{"Contents/Resources/hard", AE_IFREG, "@/target.txt", 0644, true},
+                 {"Contents/Resources/hard", AE_IFREG, "overwritten\n"}}),
+        Hostile("fifo", vpkpack::Error::UnsupportedType, {{"Contents/Resources/fifo", AE_IFIFO}}),
+        Hostile("device_node", vpkpack::Error::UnsupportedType,
+                {{"Contents/Resources/zero", AE_IFCHR, {}, 0666}}),
+        Hostile("no_ui_executable", vpkpack::Error::MissingUi, {{kUi, 0}}),
+        Hostile("ui_not_executable", vpkpack::Error::UiNotExecutable, {{kUi, AE_IFREG, "#!/bin/sh\n"}}),
+        Hostile("version_file_without_build", vpkpack::Error::MissingBuildVersion,
+                {{"Contents/Resources/INFO", AE_IFREG, "[Version]\nmajor_version=2\n"}})),
+    RowName());
+
+enum class Kind { Fifo, Device, Folder, LinkLoop, Huge };
+enum class Place { BundleInfo, InstalledInfo, PidFile, LevelFile, LogFile, Package };
+using OddRow = std::tuple<Kind, Place>;
+
+class OddFile : public ReliabilityFixture, public ::testing::WithParamInterface<OddRow> {};
+
+TEST_P(OddFile, LauncherGoesOnAndTheUserKeepsACopy)
+{
+    const auto [kind, place] = GetParam();
+    InstallCopy("1200");
+    PackClient("1201");
+    SetLevels("service_debug=6\n");
+    ASSERT_TRUE(MakeDirs(install_ + "/log"));
+    const std::string paths[] = {bundle_ + "/Contents/Resources/INFO",
+                                 app_ + "/Contents/Resources/INFO",
+                                 install_ + "/ui.pid",
+                                 LevelFile(),
+                                 LogPath(),
+                                 package_};
+    const std::string path = paths[static_cast<int>(place)];
+    // Without the launcher bundle's build, or its package, there is nothing
+    // to install; every other odd file leaves the upgrade to go ahead.
+    const bool upgrades = place != Place::BundleInfo && place != Place::Package;
+    const reliability::Tree expected = reliability::Snapshot(upgrades ? ClientBundle("1201") : app_);
+    // The device reads as /dev/zero: a node of our own as root, who could
+    // otherwise replace the system's through a link (the user interface
+    // saves its pid file by renaming onto the link's target), else a link to
+    // it. The huge file is sparse, larger than int can count.
+    ASSERT_TRUE(RemoveTree(path) &&
+                (kind == Kind::Fifo     ? mkfifo(path.c_str(), 0644) == 0
+                 : kind == Kind::Device ? (geteuid() == 0 ? mknod(path.c_str(), S_IFCHR | 0666, makedev(1, 5))
+                                                          : symlink("/dev/zero", path.c_str())) == 0
+                 : kind == Kind::Folder ? MakeDirs(path)
+                 : kind == Kind::LinkLoop ? symlink(path.c_str(), path.c_str()) == 0
+                                          : WriteFile(path, "") && truncate(path.c_str(), 3LL << 30) == 0))
+        << path << ": " << strerror(errno);
+
+    const ProcessResult run = Finish(StartLauncher("run", Env(home_)), "run", 30);
+    ASSERT_TRUE(run.exited) << "the launcher hung and was killed\n" << run.err;
+    ExpectCleanExit(run);
+    EXPECT_TRUE(reliability::SameTree(expected, reliability::Snapshot(app_)))
+        << (upgrades ? "the new copy is not the package's" : "the old copy changed");
+    EXPECT_TRUE(Backups().empty()) << "a backup stayed: " << Backups().front();
+    // The user interface refuses to run without its own pid file.
+    if (place != Place::PidFile) {
+        ExpectUiStartedOnce();
+    }
+    EXPECT_TRUE(place != Place::LogFile || kind != Kind::Huge || Exists(LogPath() + "_0"))
+        << "a log file beyond int's count was not rotated";
+}
+
+std::string OddName(const ::testing::TestParamInfo<OddRow>& info)
+{
+    static const char* const kinds[] = {"fifo", "device", "folder", "link_loop", "huge"};
+    static const char* const places[] = {"bundle_info", "installed_info", "pid_file",
+                                         "level_file",  "log_file",       "package"};
+    return std::string(kinds[static_cast<int>(std::get<0>(info.param))]) + "_at_" +
+           places[static_cast<int>(std::get<1>(info.param))];
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Places, OddFile,
+    ::testing::Combine(::testing::Values(Kind::Fifo, Kind::Device, Kind::Folder, Kind::LinkLoop, Kind::Huge),
+                       ::testing::Values(Place::BundleInfo, Place::InstalledInfo, Place::PidFile,
+                                         Place::LevelFile, Place::LogFile, Place::Package)),
+    OddName);
+
+} // namespace
