@@ -73,14 +73,13 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     FUZZ_CHECK(prepared, "cannot prepare %s", pid_file.c_str());
     fuzzsupport::WriteFile(pid_file, std::string(reinterpret_cast<const char*>(data), size));
     const long pid = NamedPid(pid_file);
-    const int alive = static_cast<int>(size % 8);
+    const int alive = g_probes_alive = static_cast<int>(size % 8);
     const std::string p = ":" + std::to_string(pid) + " ";
     std::string want = pid == 0 ? "" : "15" + p;
     for (int i = 0; pid != 0 && i <= std::min(alive, 5); ++i) {
         want += i == 5 ? "9" + p : i < alive ? "0" + p + "s " : "0" + p;
     }
     g_calls.clear();
-    g_probes_alive = alive;
     g_armed = true;
     MacService().StopService();
     g_armed = false;

@@ -27,9 +27,8 @@ namespace fuzzsupport {
 inline std::string Scratch(const std::string& name)
 {
     static const struct Dir {
-        const char* base = std::getenv("TMPDIR");
         std::string path =
-            std::string(base != nullptr && *base != '\0' ? base : "/tmp") + "/calderix-fuzz-XXXXXX";
+            std::string(std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + "/calderix-fuzz-XXXXXX";
         Dir() { FUZZ_CHECK(mkdtemp(&path[0]) != nullptr, "cannot create %s", path.c_str()); }
         ~Dir() { std::filesystem::remove_all(path); }
     } dir;

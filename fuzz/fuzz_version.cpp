@@ -59,15 +59,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     setenv("HOME", (root + "/user").c_str(), 1);
     service.LoadSourceVersion();
 
-    const bool need = service.IsNeedUpgrade();
+    const bool need = service.IsNeedUpgrade(), exe_found = service.PerUserBinPathExist();
     long long target = 0, source = 0;
-    FUZZ_CHECK(!BuildNumber(service.target_version.build_version, target) ||
-                   !BuildNumber(service.source_version.build_version, source) ||
-                   need == (target > source || !exe_exists),
-               "IsNeedUpgrade is %d for package build %lld, installed build %lld, executable %s", need,
-               target, source, exe_exists ? "present" : "missing");
-    FUZZ_CHECK(service.PerUserBinPathExist() == exe_exists,
-               "PerUserBinPathExist is wrong, the executable is %s", exe_exists ? "present" : "missing");
+    FUZZ_CHECK(exe_found == exe_exists && (!BuildNumber(service.target_version.build_version, target) ||
+                                           !BuildNumber(service.source_version.build_version, source) ||
+                                           need == (target > source || !exe_exists)),
+               "IsNeedUpgrade is %d and PerUserBinPathExist %d for package build %lld, installed build %lld, "
+               "executable %s",
+               need, exe_found, target, source, exe_exists ? "present" : "missing");
     std::filesystem::remove_all(root);
     return 0;
 }

@@ -32,16 +32,12 @@ TEST(StrTable, KeysMatchThePublishedListInIdOrder)
 }
 
 // Answers every lookup in context "global" with one text; null: no answer.
-class FixedTranslator : public QTranslator {
-public:
-    explicit FixedTranslator(const char* answer) : answer_(answer) {}
+struct FixedTranslator : QTranslator {
+    const char* answer = nullptr;
     QString translate(const char* context, const char*, const char*, int) const override
     {
-        return qstrcmp(context, "global") == 0 ? QString::fromUtf8(answer_) : QString();
+        return qstrcmp(context, "global") == 0 ? QString::fromUtf8(answer) : QString();
     }
-
-private:
-    const char* answer_;
 };
 
 struct TextCase {
@@ -54,7 +50,8 @@ class Texts : public ::testing::TestWithParam<TextCase> {};
 
 TEST_P(Texts, LoadStrGivesTheTranslationWithEscapesExpanded)
 {
-    FixedTranslator translator(GetParam().translation);
+    FixedTranslator translator;
+    translator.answer = GetParam().translation;
     QCoreApplication::installTranslator(&translator); // an empty one is installed all the same
     const QString loaded = StrTable::LoadStr(StrTable::kStrReady);
     QCoreApplication::removeTranslator(&translator);
@@ -109,9 +106,8 @@ struct LocaleCase {
     const char* name;
     const char* locale;
     const char* code;
-    // The test binary's mode that prints the choice for the locale of its
-    // environment; none: the name is handed to getLanguageForLocaleName.
-    const char* probe = "--probe";
+    // How this binary, with the locale in its environment, chooses (see main).
+    char mode = 's';
 };
 
 class Locale : public ::testing::TestWithParam<LocaleCase> {};
@@ -119,15 +115,10 @@ class Locale : public ::testing::TestWithParam<LocaleCase> {};
 TEST_P(Locale, ChoosesTheLanguage)
 {
     const LocaleCase& c = GetParam();
-    if (c.probe == nullptr) {
-        EXPECT_EQ(KorvaneLocale::getLanguageForLocaleName(QString::fromLatin1(c.locale)).toStdString(),
-                  c.code)
-            << "locale name '" << c.locale << "'";
-        return;
-    }
-    const testsupport::ProcessResult r = testsupport::Run(
-        {"/proc/self/exe", c.probe}, {testsupport::Set("LC_ALL", c.locale),
-                                      testsupport::Set("LANG", c.locale), testsupport::Unset("LANGUAGE")});
+    const testsupport::ProcessResult r =
+        testsupport::Run({"/proc/self/exe", std::string("--probe-") + c.mode},
+                         {testsupport::Set("LC_ALL", c.locale), testsupport::Set("LANG", c.locale),
+                          testsupport::Unset("LANGUAGE")});
     ASSERT_TRUE(r.exited && r.exit_code == 0) << "probe for '" << c.locale << "': " << r.err;
     EXPECT_EQ(r.out, std::string(c.code) + "\n") << "locale '" << c.locale << "'";
 }
@@ -141,25 +132,29 @@ INSTANTIATE_TEST_SUITE_P(
         LocaleCase{"nb_NO", "nb_NO", "nor"}, LocaleCase{"nn_NO", "nn_NO", "nor"},
         LocaleCase{"Posix", "POSIX", "enu"}, LocaleCase{"ar_SA", "ar_SA.UTF-8", "enu"},
         LocaleCase{"ja_JP", "ja_JP.UTF-8", "jpn"}, LocaleCase{"de_AT", "de_AT", "deu"},
-        LocaleCase{"cs_CZ", "cs_CZ", "csy"},
-        LocaleCase{"de_DE_CataloguesRemoved", "de_DE.UTF-8", "enu", "--probe-without-catalogues"},
-        LocaleCase{"pt", "pt", "ptg", nullptr}, LocaleCase{"zh_twn_OnlyWholeNames", "zh_twn", "chs", nullptr},
-        LocaleCase{"ptx_OnlyWholeNames", "ptx", "enu", nullptr}, LocaleCase{"Empty", "", "enu", nullptr}),
+        LocaleCase{"cs_CZ", "cs_CZ", "csy"}, LocaleCase{"de_DE_CataloguesRemoved", "de_DE.UTF-8", "enu", 'b'},
+        LocaleCase{"pt", "pt", "ptg", 'n'}, LocaleCase{"zh_twn_OnlyWholeNames", "zh_twn", "chs", 'n'},
+        LocaleCase{"ptx_OnlyWholeNames", "ptx", "enu", 'n'}, LocaleCase{"Empty", "", "enu", 'n'}),
     testsupport::RowName());
 
 } // namespace
 
 // Translators can only be installed while an application object exists.
-// With --probe the binary prints the language chosen for its environment's
-// locale instead (--probe-without-catalogues: as if none were built in).
+// With --probe-MODE the binary prints the language it chooses for the locale
+// of its environment instead: s as at start-up, b the same with no catalogue
+// built in, n for the bare name in LC_ALL (one QLocale::system() never gives).
 int main(int argc, char** argv)
 {
     qInitResources_texts();
-    if (argc > 1 && std::strncmp(argv[1], "--probe", 7) == 0) {
-        if (std::strcmp(argv[1], "--probe-without-catalogues") == 0) {
+    if (argc > 1 && std::strncmp(argv[1], "--probe-", 8) == 0) {
+        if (argv[1][8] == 'b') {
             qCleanupResources_texts();
         }
-        return std::printf("%s\n", qPrintable(KorvaneLocale::getDefaultLanguage())) > 0 ? 0 : 2;
+        const QString code =
+            argv[1][8] == 'n'
+                ? KorvaneLocale::getLanguageForLocaleName(QString::fromLatin1(std::getenv("LC_ALL")))
+                : KorvaneLocale::getDefaultLanguage();
+        return std::printf("%s\n", qPrintable(code)) > 0 ? 0 : 2;
     }
     ::testing::InitGoogleTest(&argc, argv);
     QCoreApplication app(argc, argv);
