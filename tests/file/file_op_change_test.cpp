@@ -153,7 +153,8 @@ TEST_F(CrossDeviceTest, FSRenameMovesEveryEntryOrLosesNoneWhenStopped)
         EXPECT_EQ(1u, moved.count(entry) + left.count(entry)) << entry << " lost or duplicated";
 
     // A file that cannot be copied (a folder holds its name) stops the move at
-    // once: of the files made just before and after it, one stays behind.
+    // once. tmpfs lists entries in the order they were made (or its reverse),
+    // so of the files made just before and after it, one stays behind.
     ASSERT_TRUE(MakeDirs(other_ + "/t") && WriteFile(other_ + "/t/A", "a") &&
                 WriteFile(other_ + "/t/S", "s") && WriteFile(other_ + "/t/B", "b") && MakeDirs(P("t/S")));
     EXPECT_EQ(-3, FSRename(other_ + "/t", P("t"), false));
