@@ -17,11 +17,6 @@ using Handle = std::unique_ptr<archive, int (*)(archive*)>;
 
 } // namespace
 
-std::string FormatName(ArchiveFormat format)
-{
-    return format == ArchiveFormat::Tar ? "tar" : format == ArchiveFormat::TarGz ? "tar_gz" : "zip";
-}
-
 ::testing::AssertionResult WriteArchive(const std::string& path, ArchiveFormat format,
                                         const std::vector<ArchiveItem>& items)
 {
@@ -31,7 +26,7 @@ std::string FormatName(ArchiveFormat format)
                                       : archive_write_set_format_pax_restricted(a)) != ARCHIVE_OK ||
         (format == ArchiveFormat::TarGz && archive_write_add_filter_gzip(a) != ARCHIVE_OK) ||
         archive_write_open_filename(a, path.c_str()) != ARCHIVE_OK)
-        return Failure(a, path + ": opening as " + FormatName(format));
+        return Failure(a, path + ": opening");
     for (const ArchiveItem& item : items) {
         const std::unique_ptr<archive_entry, void (*)(archive_entry*)> entry(archive_entry_new(),
                                                                              archive_entry_free);
@@ -42,10 +37,8 @@ std::string FormatName(ArchiveFormat format)
         archive_entry_set_size(e, static_cast<la_int64_t>(item.data.size()));
         archive_entry_set_mtime(e, item.mtime, 0);
         archive_entry_set_uid(e, item.uid);
-        if (item.kind == 'l') {
-            archive_entry_set_symlink(e, item.link.c_str());
-        } else if (item.kind == 'h')
-            archive_entry_set_hardlink(e, item.link.c_str());
+        (item.kind == 'h' ? archive_entry_set_hardlink
+                          : archive_entry_set_symlink)(e, item.link.empty() ? nullptr : item.link.c_str());
         if (archive_write_header(a, e) != ARCHIVE_OK ||
             archive_write_data(a, item.data.data(), item.data.size()) < 0)
             return Failure(a, path + ": " + item.path);
@@ -64,17 +57,14 @@ std::string FormatName(ArchiveFormat format)
     archive_entry* e = nullptr;
     int r;
     while ((r = archive_read_next_header(a, &e)) == ARCHIVE_OK) {
+        const auto text = [](const char* t) { return std::string(t != nullptr ? t : ""); };
         const unsigned type = archive_entry_filetype(e);
-        const char* hardlink = archive_entry_hardlink(e);
-        const char* link = hardlink != nullptr ? hardlink : archive_entry_symlink(e);
-        const char* uname = archive_entry_uname(e);
-        items->push_back({archive_entry_pathname(e), "",
-                          hardlink != nullptr ? 'h'
-                          : type == AE_IFDIR  ? 'd'
-                          : type == AE_IFLNK  ? 'l'
-                                              : 'f',
-                          archive_entry_perm(e), link != nullptr ? link : "", archive_entry_mtime(e),
-                          archive_entry_uid(e), archive_entry_gid(e), uname != nullptr ? uname : ""});
+        const bool hard = archive_entry_hardlink(e) != nullptr;
+        const char kind = hard ? 'h' : type == AE_IFDIR ? 'd' : type == AE_IFLNK ? 'l' : 'f';
+        items->push_back({archive_entry_pathname(e), "", kind, archive_entry_perm(e),
+                          text(hard ? archive_entry_hardlink(e) : archive_entry_symlink(e)),
+                          archive_entry_mtime(e), archive_entry_uid(e), archive_entry_gid(e),
+                          text(archive_entry_uname(e))});
         char buffer[8192];
         la_ssize_t n;
         while ((n = archive_read_data(a, buffer, sizeof buffer)) > 0)

@@ -11,9 +11,6 @@
 
 enum class ArchiveFormat { Tar, TarGz, Zip };
 
-// gtest row name of a format: "tar", "tar_gz", "zip".
-std::string FormatName(ArchiveFormat format);
-
 // One entry; kind 'f' file, 'd' folder, 'l' symbolic link or 'h' hard link
 // (both to link). {"a/", "", 'd', 0755} is a folder.
 struct ArchiveItem {

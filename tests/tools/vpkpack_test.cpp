@@ -89,18 +89,15 @@ class PackTest : public ::testing::Test {
 protected:
     void SetUp() override
     {
-        for (const auto& [name, data, mode] : std::vector<std::tuple<std::string, std::string, mode_t>>{
-                 {kPlistName, kPlist, 0644},
-                 {kUi, "#!/bin/sh\necho ui\n", 0755},
-                 {kInfoName, kInfo, 0644},
-                 {"Contents/Resources/en.lproj/Localizable.strings", "\"a\" = \"b\";\n", 0644},
-                 {"Contents/Resources/a/x", "x", 0644},
-                 {"Contents/Resources/a-b", "y", 0644},
-                 {"Contents/Resources/B", "z", 0644},
-                 {"Contents/Frameworks/Q.framework/Versions/A/Q", "lib", 0755}})
-            Put(name, data, mode);
-        ASSERT_TRUE(Shell(bundle_ + "/Contents/Frameworks/Q.framework",
-                          "ln -s A Versions/Current; ln -s Versions/Current/Q Q"));
+        Put(kPlistName, kPlist);
+        Put(kInfoName, kInfo);
+        Put(kUi, "#!/bin/sh\necho ui\n", 0755);
+        ASSERT_TRUE(Shell(
+            bundle_,
+            "cd Contents; mkdir -p Resources/en.lproj Resources/a Frameworks/Q.framework/Versions/A; "
+            "echo x >Resources/a/x; echo y >Resources/a-b; echo z >Resources/B; cd Frameworks/Q.framework; "
+            "echo '\"a\" = \"b\";' >../../Resources/en.lproj/Localizable.strings; echo lib >Versions/A/Q; "
+            "chmod 755 Versions/A/Q; ln -s A Versions/Current; ln -s Versions/Current/Q Q"));
     }
 
     void Put(const std::string& name, const std::string& data, mode_t mode = 0644)
@@ -110,103 +107,79 @@ protected:
             << path << ": " << std::strerror(errno);
     }
 
-    // A refused run returned want, the first of them as its result, and
-    // argv, the same run on the command line, prints each on a line.
-    void ExpectRefused(const Refusals& want, const Status& first, const std::vector<Status>& refused,
-                       const std::vector<std::string>& argv)
-    {
-        EXPECT_EQ(Lines(want), Lines(refused));
-        EXPECT_EQ(Lines({want.front()}), Lines({first})) << "not the first refusal returned";
-        const testsupport::ProcessResult cli = testsupport::Run(argv);
-        std::string printed;
-        for (const Status& each : refused)
-            printed += "vpkpack: " + each.Message() + "\n";
-        EXPECT_EQ(1, cli.exit_code) << cli.err;
-        EXPECT_EQ(printed, cli.err);
-    }
-
     testsupport::TempDir tmp_{"vpkpack-test"};
     const std::string bundle_ = tmp_ / "Calderix.app";
     const std::string out_ = tmp_ / "calderix.vpk";
 };
 
-struct PackRefusal {
+// A bundle changed by a shell command is refused by Pack, which keeps the
+// package already there; a hand-made package, the valid entries with extra
+// ones before the last from_end, is refused by Check. Every offending entry
+// is named, on the command line one line each.
+struct Refusal {
     const char* name;
-    const char* change; // a shell command run in the bundle
-    Refusals refused;
-};
-
-class PackRefusalTest : public PackTest, public ::testing::WithParamInterface<PackRefusal> {};
-
-TEST_P(PackRefusalTest, NamesEveryOffendingEntryAndKeepsTheOldPackage)
-{
-    ASSERT_TRUE(WriteFile(out_, "old package")) << out_ << ": " << std::strerror(errno);
-    ASSERT_TRUE(Shell(bundle_, GetParam().change));
-    std::vector<Status> refused;
-    const Status status = vpkpack::Pack(bundle_, out_, {}, nullptr, &refused);
-    EXPECT_EQ("old package", ReadFile(out_)) << "a refused bundle replaced the package";
-    EXPECT_EQ(2, std::distance(fs::directory_iterator(tmp_.path()), fs::directory_iterator{}))
-        << "temporary files left behind";
-    ExpectRefused(GetParam().refused, status, refused, {VPKPACK_BIN, bundle_, out_});
-}
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Refusals, PackRefusalTest, ::testing::ValuesIn(std::vector<PackRefusal>{
-    {"hard_link", "echo h >Contents/h; ln Contents/h Contents/k", {{E::HardLink, "Contents/h"}, {E::HardLink, "Contents/k"}}},
-    {"absolute_symlink", "ln -s /etc/passwd Contents/abs", {{E::AbsoluteSymlink, "Contents/abs"}}},
-    {"symlink_leaving_bundle", "ln -s ../../x Contents/out", {{E::EscapingSymlink, "Contents/out"}}},
-    {"symlink_chain_out", "ln -s .. Contents/u; ln -s u/../.. Contents/o", {{E::EscapingSymlink, "Contents/o"}}},
-    {"symlink_loop", "ln -s loop Contents/loop", {{E::SymlinkLoop, "Contents/loop"}}},
-    {"fifo", "mkfifo Contents/pipe", {{E::UnsupportedType, "Contents/pipe"}}},
-    {"missing_info", "rm $I", {{E::MissingInfo, kInfoName}}},
-    {"no_build_version", "V Other 1", {{E::MissingBuildVersion, kInfoName}}},
-    {"build_version_not_a_number", "V Version 12a", {{E::BadBuildVersion, kInfoName}}},
-    {"build_version_zero", "V Version 0", {{E::BadBuildVersion, kInfoName}}},
-    {"missing_ui", "rm $U", {{E::MissingUi, kUi}}},
-    {"ui_not_executable", "chmod 644 $U", {{E::UiNotExecutable, kUi}}},
-    {"ui_is_a_symlink", "mv $U Contents/real; ln -s ../real $U", {{E::NotRegularFile, kUi}}},
-    {"plist_names_another_ui", "sed -i s/drive-ui/x/ Contents/Info.plist", {{E::ForeignUiName, kPlistName}}},
-    {"every_offence_at_once", "ln -s /etc/passwd Contents/abs; mkfifo Contents/pipe; chmod 644 $U; rm $I",
-     {{E::UnsupportedType, "Contents/pipe"}, {E::AbsoluteSymlink, "Contents/abs"}, {E::MissingInfo, kInfoName},
-      {E::UiNotExecutable, kUi}}},
-}), testsupport::RowName());
-// clang-format on
-
-// Hand-made packages: the valid entries, with extra ones before the last from_end.
-struct CheckRefusal {
-    const char* name;
-    std::vector<ArchiveItem> extra;
+    const char* change;             // for Pack: a shell command run in the bundle
+    std::vector<ArchiveItem> extra; // for Check
     Refusals refused;
     int from_end = 2; // 2: before the UI executable, 1: before the version file, 0: last
-    mode_t ui_perm = 0755;
 };
 
-class CheckRefusalTest : public PackTest, public ::testing::WithParamInterface<CheckRefusal> {};
+class RefusalTest : public PackTest, public ::testing::WithParamInterface<Refusal> {};
 
-TEST_P(CheckRefusalTest, NamesEveryOffendingEntry)
+TEST_P(RefusalTest, NamesEveryOffendingEntryAndKeepsTheOldPackage)
 {
-    const CheckRefusal& row = GetParam();
-    std::vector<ArchiveItem> entries{{kPlistName, kPlist}, {kUi, "ui", 'f', row.ui_perm}, {kInfoName, kInfo}};
+    const Refusal& row = GetParam();
+    std::vector<ArchiveItem> entries{{kPlistName, kPlist}, {kUi, "ui", 'f', 0755}, {kInfoName, kInfo}};
     entries.insert(entries.end() - row.from_end, row.extra.begin(), row.extra.end());
-    ASSERT_TRUE(WriteArchive(out_, ArchiveFormat::Tar, entries));
+    ASSERT_TRUE(row.change ? WriteFile(out_, "old package") && Shell(bundle_, row.change)
+                           : bool(WriteArchive(out_, ArchiveFormat::Tar, entries)));
     std::vector<Status> refused;
-    const Status status = vpkpack::Check(out_, nullptr, &refused);
-    ExpectRefused(row.refused, status, refused, {VPKPACK_BIN, "--check", out_});
+    const Status first = row.change ? vpkpack::Pack(bundle_, out_, {}, nullptr, &refused)
+                                    : vpkpack::Check(out_, nullptr, &refused);
+    EXPECT_TRUE(!row.change || ReadFile(out_) == "old package") << "a refused bundle replaced the package";
+    EXPECT_EQ(2, std::distance(fs::directory_iterator(tmp_.path()), fs::directory_iterator{}))
+        << "temporary files left behind";
+    EXPECT_EQ(Lines(row.refused), Lines(refused));
+    EXPECT_EQ(Lines({row.refused.front()}), Lines({first})) << "not the first refusal returned";
+    const testsupport::ProcessResult cli =
+        testsupport::Run(row.change ? std::vector<std::string>{VPKPACK_BIN, bundle_, out_}
+                                    : std::vector<std::string>{VPKPACK_BIN, "--check", out_});
+    std::string printed;
+    for (const Status& each : refused)
+        printed += "vpkpack: " + each.Message() + "\n";
+    EXPECT_EQ(1, cli.exit_code) << cli.err;
+    EXPECT_EQ(printed, cli.err);
 }
 
 const ArchiveItem kLate{"Contents/late", "x"};
 const std::string kPackage = "Contents/Resources/package/calderix.vpk";
 
 // clang-format off
-INSTANTIATE_TEST_SUITE_P(Refusals, CheckRefusalTest, ::testing::ValuesIn(std::vector<CheckRefusal>{
-    {"dotdot_name", {{"Contents/../../evil", "x"}}, {{E::DotDotName, "Contents/../../evil"}}},
-    {"absolute_name", {{"/tmp/evil", "x"}}, {{E::AbsoluteName, "/tmp/evil"}}},
-    {"hard_link", {{"Contents/a", "a"}, {"Contents/b", "", 'h', 0644, "Contents/a"}}, {{E::HardLink, "Contents/b"}}},
-    {"below_symlink", {{"Contents/l", "", 'l', 0755, "MacOS"}, {"Contents/l/x"}}, {{E::BelowSymlink, "Contents/l/x"}}},
-    {"duplicate_entry", {{kPlistName, "again"}}, {{E::DuplicateEntry, kPlistName}}},
-    {"ui_not_executable", {}, {{E::UiNotExecutable, kUi}}, 2, 0644},
-    {"info_not_last", {kLate}, {{E::OutOfOrder, kInfoName}}, 0},
-    {"ui_not_right_before_info", {kLate}, {{E::OutOfOrder, kUi}}, 1},
+INSTANTIATE_TEST_SUITE_P(Refusals, RefusalTest, ::testing::ValuesIn(std::vector<Refusal>{
+    {"hard_link", "echo h >Contents/h; ln Contents/h Contents/k", {}, {{E::HardLink, "Contents/h"}, {E::HardLink, "Contents/k"}}},
+    {"absolute_symlink", "ln -s /etc/passwd Contents/abs", {}, {{E::AbsoluteSymlink, "Contents/abs"}}},
+    {"symlink_leaving_bundle", "ln -s ../../x Contents/out", {}, {{E::EscapingSymlink, "Contents/out"}}},
+    {"symlink_chain_out", "ln -s .. Contents/u; ln -s u/../.. Contents/o", {}, {{E::EscapingSymlink, "Contents/o"}}},
+    {"symlink_loop", "ln -s loop Contents/loop", {}, {{E::SymlinkLoop, "Contents/loop"}}},
+    {"fifo", "mkfifo Contents/pipe", {}, {{E::UnsupportedType, "Contents/pipe"}}},
+    {"missing_info", "rm $I", {}, {{E::MissingInfo, kInfoName}}},
+    {"no_build_version", "V Other 1", {}, {{E::MissingBuildVersion, kInfoName}}},
+    {"build_version_not_a_number", "V Version 12a", {}, {{E::BadBuildVersion, kInfoName}}},
+    {"build_version_zero", "V Version 0", {}, {{E::BadBuildVersion, kInfoName}}},
+    {"missing_ui", "rm $U", {}, {{E::MissingUi, kUi}}},
+    {"ui_not_executable", "chmod 644 $U", {}, {{E::UiNotExecutable, kUi}}},
+    {"ui_is_a_symlink", "mv $U Contents/real; ln -s ../real $U", {}, {{E::NotRegularFile, kUi}}},
+    {"plist_names_another_ui", "sed -i s/drive-ui/x/ Contents/Info.plist", {}, {{E::ForeignUiName, kPlistName}}},
+    {"every_offence_at_once", "ln -s /etc/passwd Contents/abs; mkfifo Contents/pipe; chmod 644 $U; rm $I", {},
+     {{E::UnsupportedType, "Contents/pipe"}, {E::AbsoluteSymlink, "Contents/abs"}, {E::MissingInfo, kInfoName},
+      {E::UiNotExecutable, kUi}}},
+    {"package_dotdot_name", nullptr, {{"Contents/../../evil", "x"}}, {{E::DotDotName, "Contents/../../evil"}}},
+    {"package_absolute_name", nullptr, {{"/tmp/evil", "x"}}, {{E::AbsoluteName, "/tmp/evil"}}},
+    {"package_hard_link", nullptr, {{"Contents/a", "a"}, {"Contents/b", "", 'h', 0644, "Contents/a"}}, {{E::HardLink, "Contents/b"}}},
+    {"package_below_symlink", nullptr, {{"Contents/l", "", 'l', 0755, "MacOS"}, {"Contents/l/x"}}, {{E::BelowSymlink, "Contents/l/x"}}},
+    {"package_duplicate_entry", nullptr, {{kPlistName, "again"}}, {{E::DuplicateEntry, kPlistName}}},
+    {"package_info_not_last", nullptr, {kLate}, {{E::OutOfOrder, kInfoName}}, 0},
+    {"package_ui_not_right_before_info", nullptr, {kLate}, {{E::OutOfOrder, kUi}}, 1},
 }), testsupport::RowName());
 // clang-format on
 
