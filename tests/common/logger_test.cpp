@@ -44,15 +44,16 @@ protected:
     const std::string log_ = dir_ / "launcher.log";
 };
 
+// Each row logs under its own name as the component: thresholds outlive
+// Destroy.
 struct ThresholdRow {
     const char* name;
-    const char *level_file, *component; // level_file nullptr: no level file at all
-    int highest;                        // the highest level written
+    const char* level_file; // nullptr: no level file at all
+    int highest;            // the highest level written
 };
 
 class LoggerThreshold : public LoggerTest, public ::testing::WithParamInterface<ThresholdRow> {};
 
-// Component names differ between rows: thresholds outlive Destroy.
 TEST_P(LoggerThreshold, WritesExactlyTheLevelsUpToTheComponentThreshold)
 {
     const ThresholdRow& row = GetParam();
@@ -60,96 +61,50 @@ TEST_P(LoggerThreshold, WritesExactlyTheLevelsUpToTheComponentThreshold)
     ASSERT_TRUE(row.level_file == nullptr || ts::WriteFile(levels, row.level_file)) << levels;
     ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, log_, levels, 50));
     for (int level = Logger::LEVEL_ERROR; level <= Logger::LEVEL_DEBUG; ++level)
-        Logger::LogMsg(static_cast<Logger::Level>(level), row.component, "[L%d]\n", level);
+        Logger::LogMsg(static_cast<Logger::Level>(level), row.name, "[L%d]\n", level);
 
     const std::string text = ts::ReadFile(log_);
     for (int level = Logger::LEVEL_ERROR; level <= Logger::LEVEL_DEBUG; ++level)
         EXPECT_EQ(level <= row.highest, text.find("[L" + std::to_string(level) + "]") != std::string::npos)
-            << "level " << level << " of " << row.component << ", log holds \"" << text << "\"";
+            << "level " << level << " of " << row.name << ", log holds \"" << text << "\"";
 }
 
-INSTANTIATE_TEST_SUITE_P(Levels, LoggerThreshold,
-                         ::testing::Values(ThresholdRow{"UnlistedComponentAtFour", "", "t_unlisted", 4},
-                                           ThresholdRow{"ListedAtSeven", "t_seven=7\n", "t_seven", 7},
-                                           ThresholdRow{"ListedAtThree", "t_three=3\n", "t_three", 3},
-                                           ThresholdRow{"NonNumberSilences", "t_text=loud\n", "t_text", 0},
-                                           ThresholdRow{"SyntaxErrorIgnoresGoodLines", "t_syn=7\n[s]\n",
-                                                        "t_syn", 4},
-                                           ThresholdRow{"MissingLevelFileKeepsFour", nullptr, "t_missing", 4},
-                                           ThresholdRow{"DefaultComponentKeyIsNoFallback",
-                                                        "default_component=7\n", "t_fallback", 4}),
-                         testsupport::RowName());
+INSTANTIATE_TEST_SUITE_P(
+    Levels, LoggerThreshold,
+    ::testing::Values(ThresholdRow{"Unlisted", "", 4}, ThresholdRow{"Seven", "Seven=7\n", 7},
+                      ThresholdRow{"Three", "Three=3\n", 3}, ThresholdRow{"NonNumber", "NonNumber=loud\n", 0},
+                      ThresholdRow{"SyntaxError", "SyntaxError=7\n[s]\n", 4},
+                      ThresholdRow{"NoLevelFile", nullptr, 4},
+                      ThresholdRow{"DefaultComponentKeyIsNoFallback", "default_component=7\n", 4}),
+    testsupport::RowName());
 
 // The earlier 1,048,500 bytes count; a message that brings the count to
-// exactly the limit does not rotate, the next one does, and the count of the
-// fresh file starts again at 0.
+// exactly the limit does not rotate, the next one does.
 TEST_F(LoggerTest, RotatesOnFirstMessagePastLimitCountingExistingBytes)
 {
     ASSERT_TRUE(ts::WriteFile(log_, std::string(1048500, 'p')));
     InitFile(50);
-    const std::string fill(kLimit - 1048500 - kStampLength - 1, 'a'),
-        fresh_fill(kLimit - kStampLength - 1, 'c');
-    Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "%s\n", fill.c_str());
+    Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "%s\n",
+                   std::string(kLimit - 1048500 - kStampLength - 1, 'a').c_str());
     ASSERT_EQ(kLimit, FileSize(log_)) << "rotated at exactly the limit";
     Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "b\n");
-    Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "%s\n", fresh_fill.c_str());
-    ASSERT_EQ(kLimit, FileSize(log_)) << "the fresh file's count did not start at 0";
-    Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "d\n");
-    for (size_t i : {0, 1})
-        EXPECT_EQ(kLimit + static_cast<long long>(kStampLength) + 2, FileSize(Rotated(i))) << Rotated(i);
+    EXPECT_EQ(kLimit + static_cast<long long>(kStampLength) + 2, FileSize(Rotated(0))) << Rotated(0);
     EXPECT_EQ(0, FileSize(log_)) << log_;
 }
-
-// With `prefilled` rotated files log_0.. present before and `rotations`
-// rotations, `kept` rotated files log_0.. remain.
-struct RotationRow {
-    const char* name;
-    int rotate_cnt, prefilled, rotations, kept;
-};
-
-class LoggerRotation : public LoggerTest, public ::testing::WithParamInterface<RotationRow> {};
-
-// The newest files hold the messages of the last rotations, newest first;
-// after them come the prefilled files, shifted.
-TEST_P(LoggerRotation, KeepsTheNewestFilesAndDropsTheOldest)
-{
-    const RotationRow& row = GetParam();
-    for (int i = 0; i < row.prefilled; ++i)
-        ASSERT_TRUE(ts::WriteFile(Rotated(i), "old " + std::to_string(i) + "\n"));
-    InitFile(row.rotate_cnt);
-    for (int i = 0; i < row.rotations; ++i)
-        Logger::LogMsg(Logger::LEVEL_ERROR, "rot_names", "(%d) %s\n", i, std::string(kLimit, 'x').c_str());
-
-    EXPECT_EQ(0, FileSize(log_)) << log_;
-    for (int i = 0; i < row.kept; ++i) {
-        const std::string text = ts::ReadFile(Rotated(i));
-        const std::string expected = i < row.rotations ? "(" + std::to_string(row.rotations - 1 - i) + ") "
-                                                       : "old " + std::to_string(i - row.rotations) + "\n";
-        EXPECT_NE(std::string::npos, text.find(expected)) << Rotated(i) << " lacks " << expected;
-    }
-    EXPECT_FALSE(ts::Exists(Rotated(row.kept))) << Rotated(row.kept);
-}
-
-// The launcher's count keeps launcher.log_0 to launcher.log_48.
-INSTANTIATE_TEST_SUITE_P(Counts, LoggerRotation,
-                         ::testing::Values(RotationRow{"One", 1, 0, 3, 1}, RotationRow{"Two", 2, 0, 3, 1},
-                                           RotationRow{"Five", 5, 0, 6, 4},
-                                           RotationRow{"Launcher", Logger::kDefaultRotateCount, 49, 2, 49}),
-                         testsupport::RowName());
 
 struct LoadRow {
     const char* name;
     int rotate_cnt;
     int lines;      // per thread
     size_t payload; // bytes after the thread and sequence numbers
+    int files;      // kept: the current one and the rotated ones
 };
 
 class LoggerLoad : public LoggerTest, public ::testing::WithParamInterface<LoadRow> {};
 
-// Eight threads log through dozens of rotations. What is kept must be the
-// current file and rotate_cnt - 1 rotated ones, each rotated on the first
-// line past the limit, holding whole lines: each thread's newest ones
-// without a gap.
+// Eight threads log through many rotations. What is kept must be `files`
+// files, log_0.. each rotated on the first line past the limit, holding
+// whole lines: each thread's newest ones without a gap.
 TEST_P(LoggerLoad, KeepsEachThreadsNewestLinesWholeAndInOrder)
 {
     const LoadRow& row = GetParam();
@@ -168,12 +123,13 @@ TEST_P(LoggerLoad, KeepsEachThreadsNewestLinesWholeAndInOrder)
         worker.join();
 
     std::vector<std::string> kept; // oldest first
-    for (int i = row.rotate_cnt - 2; i >= -1; --i)
+    for (int i = row.files - 2; i >= -1; --i)
         kept.push_back(i < 0 ? log_ : Rotated(i));
     std::set<std::string> listed;
     for (const auto& entry : std::filesystem::directory_iterator(dir_.path()))
         listed.insert(entry.path());
-    EXPECT_EQ(std::set<std::string>(kept.begin(), kept.end()), listed) << "rotation count " << row.rotate_cnt;
+    EXPECT_EQ(std::set<std::string>(kept.begin(), kept.end()), listed)
+        << "the files kept with a rotation count of " << row.rotate_cnt;
 
     std::vector<int> last(threads, -1);
     for (const std::string& path : kept) {
@@ -199,12 +155,13 @@ TEST_P(LoggerLoad, KeepsEachThreadsNewestLinesWholeAndInOrder)
             << "thread " << t << ": the kept lines end early";
 }
 
-// Some 30 MB each: about thirty rotations. The long lines take stdio more
-// than one write() apiece.
+// Some ten rotations each; the launcher's count, which keeps launcher.log_0
+// to launcher.log_48, over fifty. The long lines take stdio more than one
+// write() apiece.
 INSTANTIATE_TEST_SUITE_P(Rotations, LoggerLoad,
-                         ::testing::Values(LoadRow{"TwoFilesShortLines", 2, 30000, 100},
-                                           LoadRow{"ThreeFilesLongLines", 3, 700, 5000},
-                                           LoadRow{"SixFiles", 6, 4000, 900}),
+                         ::testing::Values(LoadRow{"TwoFilesShortLines", 2, 10000, 100, 2},
+                                           LoadRow{"ThreeFilesLongLines", 3, 300, 5000, 3},
+                                           LoadRow{"Launcher", Logger::kDefaultRotateCount, 7000, 1000, 50}),
                          testsupport::RowName());
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "test_support.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -13,8 +12,6 @@
 #include <thread>
 #include <unistd.h>
 
-extern char** environ;
-
 namespace fs = std::filesystem;
 
 namespace testsupport {
@@ -22,12 +19,11 @@ namespace testsupport {
 TempDir::TempDir(const std::string& prefix)
 {
     const char* base = getenv("TMPDIR");
-    std::string tmpl = std::string(base && *base ? base : "/tmp") + "/" + prefix + "-XXXXXX";
-    if (mkdtemp(&tmpl[0]) == nullptr) {
-        fprintf(stderr, "mkdtemp(%s): %s\n", tmpl.c_str(), strerror(errno));
+    path_ = std::string(base && *base ? base : "/tmp") + "/" + prefix + "-XXXXXX";
+    if (mkdtemp(&path_[0]) == nullptr) {
+        fprintf(stderr, "mkdtemp(%s): %s\n", path_.c_str(), strerror(errno));
         abort();
     }
-    path_ = tmpl;
 }
 
 TempDir::~TempDir()
@@ -115,34 +111,23 @@ namespace {
 pid_t Spawn(const std::vector<std::string>& argv, const std::vector<EnvChange>& changes, int out_fd,
             int err_fd, const std::function<void()>& before_exec = {})
 {
-    std::vector<std::string> env;
-    for (char** e = environ; *e != nullptr; ++e) {
-        const std::string entry(*e);
-        const auto same = [&](const EnvChange& c) { return entry.rfind(c.name + "=", 0) == 0; };
-        if (std::none_of(changes.begin(), changes.end(), same))
-            env.push_back(entry);
-    }
-    for (const EnvChange& c : changes)
-        if (!c.unset)
-            env.push_back(c.name + "=" + c.value);
     const pid_t pid = fork();
     if (pid != 0)
         return pid;
+    for (const EnvChange& c : changes)
+        c.unset ? unsetenv(c.name.c_str()) : setenv(c.name.c_str(), c.value.c_str(), 1);
     const int null_fd = open("/dev/null", O_RDWR);
     dup2(null_fd, 0);
     dup2(out_fd >= 0 ? out_fd : null_fd, 1);
     dup2(err_fd >= 0 ? err_fd : null_fd, 2);
     if (before_exec)
         before_exec();
-    std::vector<char*> args, envp;
+    std::vector<char*> args;
     for (const std::string& s : argv)
         args.push_back(const_cast<char*>(s.c_str()));
-    for (std::string& s : env)
-        envp.push_back(&s[0]);
     args.push_back(nullptr);
-    envp.push_back(nullptr);
-    execve(args[0], args.data(), envp.data());
-    dprintf(2, "execve(%s): %s\n", args[0], strerror(errno));
+    execv(args[0], args.data());
+    dprintf(2, "execv(%s): %s\n", args[0], strerror(errno));
     _exit(127);
 }
 
@@ -201,30 +186,27 @@ pid_t Start(const std::vector<std::string>& argv, const std::vector<EnvChange>& 
 int Wait(pid_t pid)
 {
     int status = 0;
-    pid_t r;
-    do {
-        r = waitpid(pid, &status, 0);
-    } while (r < 0 && errno == EINTR);
-    return r == pid ? status : -1;
+    while (waitpid(pid, &status, 0) != pid)
+        if (errno != EINTR)
+            return -1;
+    return status;
 }
 
 void EnterUserNamespace(int clone_flags)
 {
     const std::string uid = std::to_string(geteuid()), gid = std::to_string(getegid());
-    if (unshare(CLONE_NEWUSER | clone_flags) != 0) {
-        perror("unshare");
-        _exit(127);
-    }
     const std::pair<const char*, std::string> maps[] = {{"/proc/self/setgroups", "deny"},
                                                         {"/proc/self/uid_map", "0 " + uid + " 1"},
                                                         {"/proc/self/gid_map", "0 " + gid + " 1"}};
+    bool ok = unshare(CLONE_NEWUSER | clone_flags) == 0;
     for (const auto& [file, text] : maps) {
-        const int fd = open(file, O_WRONLY | O_CLOEXEC);
-        if (fd < 0 || write(fd, text.data(), text.size()) != static_cast<ssize_t>(text.size())) {
-            perror(file);
-            _exit(127);
-        }
-        close(fd);
+        const int fd = ok ? open(file, O_WRONLY | O_CLOEXEC) : -1;
+        ok = fd >= 0 && write(fd, text.data(), text.size()) == static_cast<ssize_t>(text.size()) &&
+             close(fd) == 0;
+    }
+    if (!ok) {
+        perror("entering a user namespace");
+        _exit(127);
     }
 }
 

@@ -39,8 +39,7 @@ bool Exists(const std::string& path);
 
 // One change to a child's environment: Set() a variable or Unset() it.
 struct EnvChange {
-    std::string name;
-    std::string value;
+    std::string name, value;
     bool unset = false;
 };
 EnvChange Set(const std::string& name, const std::string& value);
@@ -50,8 +49,8 @@ struct ProcessResult {
     bool exited = false; // ended by exit() rather than a signal
     int exit_code = -1;  // valid when exited
     int term_signal = 0; // valid when !exited
-    std::string out;     // standard output
-    std::string err;     // standard error
+    // What it wrote to standard output and standard error.
+    std::string out, err;
 };
 
 // Runs argv[0] with the given environment changes, waits for it and returns
