@@ -16,15 +16,14 @@ int main(int argc, char** argv)
     const char* barrier = argc == 3 && std::strcmp(argv[1], "--barrier") == 0 ? argv[2] : nullptr;
     if (argc > 1 && !barrier)
         return 2;
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
     QtSingleApplication app(argc, argv, true);
     if (barrier) {
         std::printf("ready\n");
-        std::fflush(stdout);
         ::close(::open(barrier, O_RDONLY | O_CLOEXEC));
     }
     const bool running = app.isRunning();
     std::printf("%s\n", running ? "running" : "first");
-    std::fflush(stdout);
     // A pipe's write end reports POLLERR once its last reader has closed.
     pollfd out{STDOUT_FILENO, 0, 0};
     while (!running && ::poll(&out, 1, -1) < 0 && errno == EINTR) {

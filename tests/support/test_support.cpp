@@ -43,10 +43,10 @@ bool RemoveTree(const std::string& path)
 {
     // Tests may leave folders without write or search permission behind:
     // open up each folder before its entries are listed.
-    std::error_code ec;
-    const auto open_up = [&](const fs::path& dir) {
-        if (fs::is_directory(fs::symlink_status(dir, ec)))
-            fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add, ec);
+    std::error_code ec, ignored;
+    const auto open_up = [&ignored](const fs::path& dir) {
+        if (fs::is_directory(fs::symlink_status(dir, ignored)))
+            fs::permissions(dir, fs::perms::owner_all, fs::perm_options::add, ignored);
     };
     open_up(path);
     for (fs::recursive_directory_iterator it(path, ec), end; !ec && it != end; it.increment(ec))
@@ -83,8 +83,9 @@ bool WriteFile(const std::string& path, const std::string& content, mode_t mode)
 
 std::string ReadFile(const std::string& path)
 {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    std::ostringstream text;
+    text << std::ifstream(path, std::ios::binary).rdbuf();
+    return text.str();
 }
 
 bool Exists(const std::string& path)
