@@ -29,7 +29,7 @@ const char kUi[] = "Contents/MacOS/calderix-drive-ui";
 const char kInfoName[] = "Contents/Resources/INFO";
 const char kPlistName[] = "Contents/Info.plist";
 const char kInfo[] =
-    "[Version]\nmajor_version=3\nminor_version=1\nbuild_version=1201\nicon_overlay_version=5\n";
+    "[Version]\nmajor_version=3\nminor_version=1\nbuild_version=2147483647\nicon_overlay_version=5\n";
 const char kPlist[] = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
                       "<key>CFBundleName</key><string>Calderix Drive</string><key>CFBundleExecutable</key>"
                       "<string>calderix-drive-ui</string></dict></plist>\n";
@@ -202,13 +202,14 @@ TEST_P(BundleCheckTest, RefusesNamingTheFileOrPasses)
                       "mkdir -p Contents/MacOS ${K%/*} ${C%/*} ${P%/*}; printf '[Other]\\nkey=1\\n' >$I; "
                       "echo >$C; echo >$P; echo >$L; chmod 755 $L; echo '<plist version=\"1.0\"><dict>"
                       "<key>CFBundleExecutable</key><string>launcher</string><key>CFBundleVersion</key>"
-                      "<string>1201</string></dict></plist>' >Contents/Info.plist"));
+                      "<string>2147483647</string></dict></plist>' >Contents/Info.plist"));
     vpkpack::PackOptions options;
     options.info_out = launcher + "/" + kInfoName;
     const Status packed = vpkpack::Pack(bundle_, launcher + "/" + kPackage, options);
     ASSERT_TRUE(packed.ok()) << packed.Message();
-    EXPECT_EQ("[Version]\nbuild_version=1201\nicon_overlay_version=5\nmajor_version=3\nminor_version=1\n",
-              ReadFile(options.info_out));
+    EXPECT_EQ(
+        "[Version]\nbuild_version=2147483647\nicon_overlay_version=5\nmajor_version=3\nminor_version=1\n",
+        ReadFile(options.info_out));
     ASSERT_TRUE(Shell(launcher, GetParam().change));
 
     const Status status = vpkpack::CheckBundle(launcher);
@@ -224,8 +225,8 @@ INSTANTIATE_TEST_SUITE_P(Bundles, BundleCheckTest, ::testing::ValuesIn(std::vect
     {"complete", "", E::None, ""},
     {"launcher_not_executable", "chmod 644 $L", E::NotExecutable, "Contents/MacOS/launcher"},
     {"plist_names_another_launcher", "sed -i s/launcher/x/ Contents/Info.plist", E::NotFound, "Contents/MacOS/x"},
-    {"plist_with_another_build", "sed -i s/1201/1200/ Contents/Info.plist", E::BuildMismatch, kPlistName},
-    {"info_with_another_build", "sed -i s/1201/1202/ Contents/Info.plist $I", E::BuildMismatch, kInfoName},
+    {"plist_with_another_build", "sed -i s/2147483647/2147483646/ Contents/Info.plist", E::BuildMismatch, kPlistName},
+    {"info_with_another_build", "sed -i s/2147483647/2147483646/ Contents/Info.plist $I", E::BuildMismatch, kInfoName},
     {"no_platform_plugin", "rm $P", E::NoPlatformPlugin, "Contents/Frameworks/plugins/platforms"},
     {"no_icon", "rm $C", E::NotFound, "Contents/Resources/images/ico_72_calderix.png"},
     {"no_package", "rm $K", E::NotFound, "{K}"},
@@ -249,7 +250,8 @@ TEST_P(PackFormatTest, RoundTripsReproduciblyAndPassesCheck)
     ASSERT_TRUE(packed.ok()) << packed.Message();
     const Status status = vpkpack::Check(out_, &checked);
     EXPECT_TRUE(status.ok()) << status.Message();
-    EXPECT_EQ(std::make_pair(1201L, summary.entries), std::make_pair(summary.version.build, checked.entries));
+    EXPECT_EQ(std::make_pair(2147483647L, summary.entries),
+              std::make_pair(summary.version.build, checked.entries));
     std::vector<ArchiveItem> items;
     ASSERT_TRUE(ReadArchive(out_, &items));
     Tree stored;
@@ -384,12 +386,12 @@ INSTANTIATE_TEST_SUITE_P(Cli, CommandLineTest, ::testing::ValuesIn(std::vector<C
     {"missing_bundle", {"/nonexistent/a.app", "{O}"}, 1, "vpkpack: no such file or folder: '/nonexistent/a.app'"},
     {"missing_output_folder", {"{B}", "/no/a.vpk"}, 1, "vpkpack: output folder does not exist: '/no'\n"},
     {"output_inside_bundle", {"{B}", "{B}/Contents/a.vpk"}, 1, "output would lie inside the bundle"},
-    {"format_from_output_name", {"{B}", "{O}.zip"}, 0, "(zip, build 1201, "},
+    {"format_from_output_name", {"{B}", "{O}.zip"}, 0, "(zip, build 2147483647, "},
     {"format_against_output_name", {"--format", "tar.xz", "{B}", "{O}.tgz"}, 2, "tar.xz does not match the output's"},
     {"level_for_zip", {"--level", "3", "{B}", "{O}.zip"}, 2, "apply to tar.zst only"},
     {"level_out_of_range", {"--level=23", "{B}", "{O}"}, 2, "from 1 to 22: '23'"},
     {"check_of_no_package", {"--check", "{B}/Contents/Resources/INFO"}, 1, "not a package (tar.zst, zip, tar.gz"},
-    {"print_build", {"--print-build", "{B}/Contents/Resources/INFO"}, 0, "1201\n"},
+    {"print_build", {"--print-build", "{B}/Contents/Resources/INFO"}, 0, "2147483647\n"},
     {"version", {"--version"}, 0, "vpkpack 1.0.0 (libarchive "},
 }), testsupport::RowName());
 // clang-format on
