@@ -1,41 +1,26 @@
 // The controller, its worker thread and the progress dialog, in process:
 // a scripted service stands in for the installation, and the dialog is
 // watched through its toolkit properties.
-#include <cerrno>
-#include <cstdio>
-#include <cstdlib>
-#include <cstring>
-#include <ostream>
-#include <string>
-#include <sys/stat.h>
-#include <vector>
-
 #include <QApplication>
 #include <QEvent>
-#include <QIcon>
-#include <QImage>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QThread>
-#include <QVariant>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "calderix-service.h"
 #include "launcher.h"
+#include "launcher_fixture.h"
 #include "progress-dialog.h"
-#include "scoped_env.h"
 #include "strtable.h"
-#include "test_support.h"
 
 using namespace testsupport;
+using launchertest::Strings;
 using ::testing::ElementsAreArray;
 
 namespace {
-
-const char kPrintIconMode[] = "--print-dialog-icon";
 
 // The dialog of the one controller alive in the test.
 ProcessingProgressDialog* TheDialog()
@@ -48,36 +33,16 @@ ProcessingProgressDialog* TheDialog()
     return nullptr;
 }
 
-// Everything a fresh dialog is before anyone drives it; the owner of a
+// A fresh dialog is hidden, with its title and text; the owner of a
 // launcher's dialog has also removed its cancel button and automatic reset.
-TEST(ProgressDialog, IsBuiltHiddenWithItsFixedLook)
+TEST(ProgressDialog, StartsHiddenAndTheLaunchersHasNoCancelButtonNorAutoReset)
 {
     {
         const ProcessingProgressDialog dialog;
         EXPECT_FALSE(dialog.isVisible());
         EXPECT_EQ(dialog.windowTitle(), QStringLiteral("Calderix Drive"));
         EXPECT_EQ(dialog.labelText(), QStringLiteral("Calderix Drive is initializing..."));
-        // The toolkit turns a parentless widget into a window; the hints are
-        // exactly title and system menu.
-        EXPECT_EQ(static_cast<int>(dialog.windowFlags() & ~Qt::WindowType_Mask), 0x3000);
-        EXPECT_EQ(dialog.windowType(), Qt::Window);
-        EXPECT_EQ(dialog.value(), 0);
-        EXPECT_EQ(dialog.minimum(), 0);
-        EXPECT_EQ(dialog.maximum(), 100);
-        EXPECT_EQ(dialog.font().family(), QStringLiteral("Arial"));
-        EXPECT_FALSE(dialog.font().italic());
-        EXPECT_EQ(dialog.font().weight(), QFont::Normal);
-        EXPECT_EQ(dialog.minimumWidth(), 400);
-        EXPECT_EQ(dialog.maximumWidth(), 400);
-        EXPECT_TRUE(dialog.isModal());
-        EXPECT_EQ(dialog.windowModality(), Qt::WindowModal);
-        const QString style =
-            QStringLiteral(" QProgressDialog { background-color: WhiteSmoke; \n  vertical-align: middle } ");
-        EXPECT_EQ(style.size(), 77);
-        EXPECT_EQ(dialog.styleSheet(), style);
-        EXPECT_TRUE(dialog.autoClose());
     }
-
     const Launcher launcher;
     ProcessingProgressDialog* owned = TheDialog();
     ASSERT_NE(owned, nullptr) << "the controller made no dialog";
@@ -85,50 +50,10 @@ TEST(ProgressDialog, IsBuiltHiddenWithItsFixedLook)
     EXPECT_EQ(owned->findChild<QPushButton*>(), nullptr) << "the dialog still has a cancel button";
 }
 
-// The icon comes from the resources of the bundle the executable runs
-// from, so this test runs a copy of itself from a bundle it builds.
-TEST(ProgressDialog, TakesItsIconFromTheBundleImages)
-{
-    const TempDir dir("calderix-dialog");
-    const std::string bundle = dir / "Icon.app";
-    const std::string images = bundle + "/Contents/Resources/images";
-    const std::string exe = bundle + "/Contents/MacOS/controller_test";
-    ASSERT_TRUE(MakeDirs(bundle + "/Contents/MacOS") && MakeDirs(images))
-        << bundle << ": " << strerror(errno);
-    const std::string self = QCoreApplication::applicationFilePath().toStdString();
-    ASSERT_TRUE(CopyTree(self, exe)) << self << ": " << strerror(errno);
-    const std::vector<EnvChange> env = {Set("QT_QPA_PLATFORM", "offscreen"), Unset("XDG_RUNTIME_DIR"),
-                                        Set("TMPDIR", dir.path())};
-
-    ProcessResult r = testsupport::Run({exe, kPrintIconMode}, env);
-    EXPECT_TRUE(r.exited && r.exit_code == 0) << r.err;
-    EXPECT_EQ(r.out, "none\n") << "an icon appeared without its file";
-    // A FIFO in the icon's place is no icon, and nothing waits on it.
-    const std::string png = images + "/ico_72_calderix.png";
-    ASSERT_EQ(mkfifo(png.c_str(), 0644), 0) << png << ": " << strerror(errno);
-    r = testsupport::Run({exe, kPrintIconMode}, env);
-    EXPECT_EQ(r.out, "none\n") << r.err;
-    ASSERT_TRUE(RemoveTree(png));
-
-    QImage icon(72, 72, QImage::Format_ARGB32);
-    icon.fill(Qt::darkCyan);
-    ASSERT_TRUE(icon.save(QString::fromStdString(png), "PNG")) << png;
-    r = testsupport::Run({exe, kPrintIconMode}, env);
-    EXPECT_TRUE(r.exited && r.exit_code == 0) << r.err;
-    EXPECT_EQ(r.out, "72x72\n");
-}
-
 struct ProgressCase {
     const char* name;
-    int total;
-    int steps;
-    int value; // the dialog's value afterwards; it starts at 10
+    int total, steps, value; // the dialog's value afterwards; it starts at 10
 };
-
-void PrintTo(const ProgressCase& c, std::ostream* os)
-{
-    *os << c.name;
-}
 
 class ProgressReport : public ::testing::TestWithParam<ProgressCase> {};
 
@@ -140,198 +65,148 @@ TEST_P(ProgressReport, SetsTheTruncatedPercentage)
     ASSERT_NE(dialog, nullptr);
     // On this thread the relay's connection calls the controller directly.
     Notify_Adapter::GetInstance()->UpdateProgress(10, 1);
-    ASSERT_EQ(dialog->value(), 10);
     Notify_Adapter::GetInstance()->UpdateProgress(c.total, c.steps);
-    EXPECT_EQ(dialog->value(), c.value) << c.steps << " of " << c.total;
+    EXPECT_EQ(dialog->value(), c.value) << c.steps << " of " << c.total << ", from 10";
 }
 
-// The reports a run sends, 3 of 7 giving 42 among them, come through the
-// relay in ControllerRun; these are the edges.
+// The reports a run sends come through the relay in ControllerRun; these are the edges.
 INSTANTIATE_TEST_SUITE_P(Reports, ProgressReport,
                          ::testing::Values(ProgressCase{"NoneDone", 7, 0, 0},
                                            ProgressCase{"BeyondInt32Product", 30000000, 29999999, 99},
                                            ProgressCase{"ZeroTotalIgnored", 0, 3, 10},
                                            ProgressCase{"NegativeTotalIgnored", -7, 3, 10}),
-                         [](const ::testing::TestParamInfo<ProgressCase>& info) {
-                             return std::string(info.param.name);
-                         });
+                         RowName());
 
-// Stands in for the installation: records each call and the thread it ran
-// on, and reports extraction progress through the relay as the extractor
-// does.
+struct RunCase {
+    const char* name;
+    bool need_upgrade;
+    int upgrade_result;
+    int entries; // progress reports during the upgrade, of a total of 7
+    Strings calls;
+    std::vector<int> values; // the bar's values, in the order set
+    Strings showing;         // the dialog's shows and hides
+    int label_id;            // final label, or -1 for the relay's text
+};
+
+// Stands in for the installation: records each call (and whether the aged
+// folder was still there at the launch) and whether any ran on the main
+// thread, and reports extraction progress through the relay as the
+// extractor does.
 class ScriptedService : public Service {
 public:
-    struct Script {
-        bool need_upgrade;
-        int upgrade_result;
-        int entries; // progress reports during the upgrade, of a total of 7
-    };
-
-    ScriptedService(const Script& script, std::vector<std::string>* calls, bool* off_main)
-        : script_(script), calls_(calls), off_main_(off_main)
+    ScriptedService(const RunCase& c, Strings& calls, bool& on_main) : c_(c), calls_(calls), on_main_(on_main)
     {
     }
-
     void StopService() override { Record("StopService"); }
     int HandlePackageUpgrade() override
     {
         Record("HandlePackageUpgrade");
         Notify_Adapter::GetInstance()->UpdateDialogText(QStringLiteral("unpacking"));
-        for (int done = 1; done <= script_.entries; ++done) {
+        for (int done = 1; done <= c_.entries; ++done) {
             Notify_Adapter::GetInstance()->UpdateProgress(7, done);
         }
-        return script_.upgrade_result;
+        return c_.upgrade_result;
     }
-    void PostUpgrade() override { Record("PostUpgrade"); }
-    void PreUpgrade() override { Record("PreUpgrade"); }
-    bool IsNeedUpgrade() override
+    void PostUpgrade() override
     {
-        Record("IsNeedUpgrade");
-        return script_.need_upgrade;
+        Record(Exists(GetUserCalderixInstallPath().c_str() + std::string("/app")) ? "untidy" : "PostUpgrade");
     }
+    void PreUpgrade() override { Record("PreUpgrade"); }
+    bool IsNeedUpgrade() override { return Record("IsNeedUpgrade"), c_.need_upgrade; }
 
 private:
     void Record(const char* call)
     {
-        calls_->push_back(call);
-        *off_main_ = *off_main_ && QThread::currentThread() != qApp->thread();
+        calls_.push_back(call);
+        on_main_ = on_main_ || QThread::currentThread() == qApp->thread();
     }
-
-    Script script_;
-    std::vector<std::string>* calls_;
-    bool* off_main_;
+    const RunCase& c_;
+    Strings& calls_;
+    bool& on_main_;
 };
 
-// Records the dialog's shows and hides, and checks that the toolkit sees
-// them on the main thread.
-class VisibilityLog : public QObject {
+// Records the dialog's shows and hides, the bar's values, and whether the
+// toolkit saw any of them off the main thread.
+class DialogLog : public QObject {
 public:
     bool eventFilter(QObject*, QEvent* event) override
     {
         if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
             events.push_back(event->type() == QEvent::Show ? "show" : "hide");
-            on_main = on_main && QThread::currentThread() == qApp->thread();
+            Seen();
         }
         return false;
     }
-    std::vector<std::string> events;
-    bool on_main = true;
+    void Seen() { off_main = off_main || QThread::currentThread() != qApp->thread(); }
+    Strings events;
+    std::vector<int> values;
+    bool off_main = false;
 };
 
-struct RunCase {
-    const char* name;
-    ScriptedService::Script script;
-    std::vector<std::string> calls;
-    std::vector<int> values;          // the bar's values, in the order set
-    std::vector<std::string> showing; // the dialog's shows and hides
-    int label_id;                     // final label, or -1 for the relay's text
-};
-
-void PrintTo(const RunCase& c, std::ostream* os)
-{
-    *os << c.name;
-}
-
-class ControllerRun : public ::testing::TestWithParam<RunCase> {
-protected:
-    void SetUp() override
-    {
-        // The service tidies the aged folder of this home.
-        ASSERT_TRUE(env_.Set("HOME", dir_ / "home")) << strerror(errno);
-        ASSERT_TRUE(MakeDirs(AgedFolder())) << AgedFolder() << ": " << strerror(errno);
-    }
-    std::string AgedFolder() const { return dir_ / "home/.Calderix/app"; }
-
-    TempDir dir_{"calderix-controller"};
-    launchertest::ScopedEnv env_;
-};
+class ControllerRun : public LauncherFixture, public ::testing::WithParamInterface<RunCase> {};
 
 // One run from Start to the end of the event loop: the service calls in
-// order on the worker thread, the dialog driven only from the main thread,
-// every report applied in the order it was sent, and a clean quit.
+// order on the worker thread, the aged folder tidied before the launch, the
+// dialog driven only from the main thread, every report applied in the
+// order it was sent, and a clean quit.
 TEST_P(ControllerRun, RunsTheServiceAndRelaysItsReportsInOrder)
 {
     const RunCase& c = GetParam();
-    std::vector<std::string> calls;
-    bool off_main = true;
-    auto* launcher = new Launcher(new ScriptedService(c.script, &calls, &off_main));
+    UseFixtureEnvironment();
+    ASSERT_TRUE(MakeDirs(install_ + "/app")) << strerror(errno);
+    Strings calls;
+    bool on_main = false;
+    auto* launcher = new Launcher(new ScriptedService(c, calls, on_main));
     ProcessingProgressDialog* dialog = TheDialog();
     ASSERT_NE(dialog, nullptr);
     QProgressBar* bar = dialog->findChild<QProgressBar*>();
     ASSERT_NE(bar, nullptr);
-    QSignalSpy values(bar, &QProgressBar::valueChanged);
-    bool bar_on_main = true;
-    QObject::connect(bar, &QProgressBar::valueChanged, [&bar_on_main] {
-        bar_on_main = bar_on_main && QThread::currentThread() == qApp->thread();
+    DialogLog log;
+    QObject::connect(bar, &QProgressBar::valueChanged, [&log](int value) {
+        log.values.push_back(value);
+        log.Seen();
     });
-    VisibilityLog visibility;
-    dialog->installEventFilter(&visibility);
+    dialog->installEventFilter(&log);
 
     launcher->Run();
     launcher->Start();
-    const int result = QApplication::exec();
-
-    EXPECT_EQ(result, 0);
+    EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_THAT(calls, ElementsAreArray(c.calls));
-    EXPECT_TRUE(off_main) << "a service call ran on the main thread";
-    EXPECT_FALSE(Exists(AgedFolder())) << "the aged folder was not removed";
-    std::vector<int> seen;
-    for (const QList<QVariant>& args : values) {
-        seen.push_back(args.at(0).toInt());
-    }
-    EXPECT_THAT(seen, ElementsAreArray(c.values));
-    EXPECT_TRUE(bar_on_main) << "the bar was set off the main thread";
-    EXPECT_THAT(visibility.events, ElementsAreArray(c.showing));
-    EXPECT_TRUE(visibility.on_main);
+    EXPECT_FALSE(on_main) << "a service call ran on the main thread";
+    EXPECT_THAT(log.values, ElementsAreArray(c.values));
+    EXPECT_THAT(log.events, ElementsAreArray(c.showing));
+    EXPECT_FALSE(log.off_main) << "the dialog was driven off the main thread";
     EXPECT_FALSE(dialog->isVisible());
     EXPECT_EQ(dialog->labelText(),
               c.label_id < 0 ? QStringLiteral("unpacking") : StrTable::LoadStr(c.label_id));
-    dialog->removeEventFilter(&visibility);
+    dialog->removeEventFilter(&log);
     delete launcher;
     EXPECT_EQ(TheDialog(), nullptr) << "the controller left its dialog behind";
 }
 
+const Strings kUpgradeCalls{"PreUpgrade", "IsNeedUpgrade", "HandlePackageUpgrade", "PostUpgrade"};
 INSTANTIATE_TEST_SUITE_P(
     Outcomes, ControllerRun,
-    ::testing::Values(RunCase{"UpgradeSucceeds",
-                              {true, 0, 7},
-                              {"PreUpgrade", "IsNeedUpgrade", "HandlePackageUpgrade", "PostUpgrade"},
-                              {14, 28, 42, 57, 71, 85, 100},
-                              {"show", "hide"},
-                              510},
-                      RunCase{"UpgradeFails",
-                              {true, -1, 3},
-                              {"PreUpgrade", "IsNeedUpgrade", "HandlePackageUpgrade", "PostUpgrade"},
-                              {14, 28, 42, 100},
-                              {"show", "hide"},
-                              -1},
-                      RunCase{"NothingToUpgrade",
-                              {false, 0, 0},
-                              {"PreUpgrade", "IsNeedUpgrade", "PostUpgrade"},
-                              {100},
-                              {},
-                              461}),
-    [](const ::testing::TestParamInfo<RunCase>& info) { return std::string(info.param.name); });
+    ::testing::Values(
+        RunCase{"UpgradeSucceeds",
+                true,
+                0,
+                7,
+                kUpgradeCalls,
+                {14, 28, 42, 57, 71, 85, 100},
+                {"show", "hide"},
+                510},
+        RunCase{"UpgradeFails", true, -1, 3, kUpgradeCalls, {14, 28, 42, 100}, {"show", "hide"}, -1},
+        RunCase{
+            "NothingToUpgrade", false, 0, 0, {"PreUpgrade", "IsNeedUpgrade", "PostUpgrade"}, {100}, {}, 461}),
+    RowName());
 
 } // namespace
 
-// Besides the tests, one helper mode for TakesItsIconFromTheBundleImages:
-// print the size of the dialog's icon ("none" without one) and exit.
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
     QApplication app(argc, argv);
     StrTable::InitStrTable();
-    if (argc == 2 && strcmp(argv[1], kPrintIconMode) == 0) {
-        const ProcessingProgressDialog dialog;
-        const QList<QSize> sizes = dialog.windowIcon().availableSizes();
-        printf("%s\n", sizes.isEmpty() ? "none"
-                                       : QStringLiteral("%1x%2")
-                                             .arg(sizes.front().width())
-                                             .arg(sizes.front().height())
-                                             .toUtf8()
-                                             .constData());
-        return 0;
-    }
     return RUN_ALL_TESTS();
 }

@@ -1,9 +1,11 @@
 // A private copy of the assembled demo bundle and a fake home in a fresh
-// temporary folder, for running the real launcher binary. Whatever the
-// launcher starts from the fixture (the user interface it launches
-// detached) is stopped and reaped when the test ends.
+// temporary folder, for running the real launcher binary, and the runner of
+// the whole-launcher scenario tables. Whatever the launcher starts from the
+// fixture (the user interface it launches detached) is stopped and reaped
+// when the test ends.
 #pragma once
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <climits>
@@ -11,6 +13,9 @@
 #include <cstdlib>
 #include <cstring>
 #include <dirent.h>
+#include <functional>
+#include <optional>
+#include <regex>
 #include <string>
 #include <sys/prctl.h>
 #include <sys/wait.h>
@@ -20,10 +25,47 @@
 
 #include <gtest/gtest.h>
 
-#include "scoped_env.h"
+#include "test_rows.h"
 #include "test_support.h"
 
+// The preloaded kill shim, for suites that build it.
+#ifndef KILL_SHIM
+#define KILL_SHIM ""
+#endif
+
 namespace launchertest {
+
+using Strings = std::vector<std::string>;
+
+// Changes to this process's environment, each undone (value or absence)
+// when the object goes away, so that tests sharing a process stay
+// independent. Set and Unset return false, with errno set, on failure.
+class ScopedEnv {
+public:
+    ScopedEnv() = default;
+    ScopedEnv(const ScopedEnv&) = delete;
+    ScopedEnv& operator=(const ScopedEnv&) = delete;
+    ~ScopedEnv()
+    {
+        for (auto it = saved_.rbegin(); it != saved_.rend(); ++it) {
+            it->second ? setenv(it->first.c_str(), it->second->c_str(), 1) : unsetenv(it->first.c_str());
+        }
+    }
+    bool Set(const std::string& name, const std::string& value)
+    {
+        return Save(name) && setenv(name.c_str(), value.c_str(), 1) == 0;
+    }
+    bool Unset(const std::string& name) { return Save(name) && unsetenv(name.c_str()) == 0; }
+
+private:
+    bool Save(const std::string& name)
+    {
+        const char* value = getenv(name.c_str());
+        saved_.emplace_back(name, value != nullptr ? std::optional<std::string>(value) : std::nullopt);
+        return true;
+    }
+    std::vector<std::pair<std::string, std::optional<std::string>>> saved_;
+};
 
 // Processes (zombies excluded) whose executable lies below folder, with
 // that executable's path as the kernel reports it (a replaced file ends in
@@ -36,17 +78,12 @@ inline std::vector<std::pair<pid_t, std::string>> ProcessesBelow(const std::stri
         ADD_FAILURE() << "/proc: " << strerror(errno);
         return found;
     }
-    const std::string prefix = folder + "/";
     while (const struct dirent* e = readdir(proc)) {
-        char* end = nullptr;
-        const long pid = strtol(e->d_name, &end, 10);
-        if (pid <= 0 || *end != '\0') {
-            continue;
-        }
         char exe[PATH_MAX];
         const ssize_t n = readlink(("/proc/" + std::string(e->d_name) + "/exe").c_str(), exe, sizeof exe - 1);
-        if (n > 0 && std::string(exe, static_cast<size_t>(n)).compare(0, prefix.size(), prefix) == 0) {
-            found.emplace_back(static_cast<pid_t>(pid), std::string(exe, static_cast<size_t>(n)));
+        const std::string path(exe, n > 0 ? static_cast<size_t>(n) : 0);
+        if (isdigit(static_cast<unsigned char>(e->d_name[0])) && path.rfind(folder + "/", 0) == 0) {
+            found.emplace_back(static_cast<pid_t>(atol(e->d_name)), path);
         }
     }
     closedir(proc);
@@ -56,39 +93,56 @@ inline std::vector<std::pair<pid_t, std::string>> ProcessesBelow(const std::stri
 // The lines of a log text that carry the logger's "%b %d %H:%M:%S "
 // timestamp, without it and with the source line of the message shown as
 // "%d", as in its format: "[DEBUG] main(%d): app has already launched, return".
-inline std::vector<std::string> LogLines(const std::string& text)
+inline Strings LogLines(const std::string& text)
 {
-    static const char shape[] = "Aaa 00 00:00:00 ";
-    const size_t stamp = sizeof shape - 1;
-    std::vector<std::string> lines;
-    for (std::string line : testsupport::Lines(text)) {
-        bool stamped = line.size() > stamp;
-        for (size_t i = 0; stamped && i < stamp; ++i) {
-            const unsigned char c = static_cast<unsigned char>(line[i]);
-            stamped = shape[i] == 'A'   ? isupper(c) != 0
-                      : shape[i] == 'a' ? islower(c) != 0
-                      : shape[i] == '0' ? isdigit(c) != 0 || (i == 4 && c == ' ')
-                                        : c == static_cast<unsigned char>(shape[i]);
+    static const std::regex stamped(R"(^[A-Z][a-z][a-z] [ 0-9][0-9] [0-9]{2}:[0-9]{2}:[0-9]{2} (.*))");
+    static const std::regex source(R"(\([0-9]+\))");
+    Strings lines;
+    std::smatch m;
+    for (const std::string& line : testsupport::Lines(text)) {
+        if (std::regex_match(line, m, stamped)) {
+            lines.push_back(
+                std::regex_replace(m[1].str(), source, "(%d)", std::regex_constants::format_first_only));
         }
-        if (!stamped) {
-            continue;
-        }
-        line.erase(0, stamp);
-        const size_t open = line.find('(');
-        const size_t close =
-            open == std::string::npos ? open : line.find_first_not_of("0123456789", open + 1);
-        if (close != std::string::npos && close > open + 1 && line[close] == ')') {
-            line.replace(open + 1, close - open - 1, "%d");
-        }
-        lines.push_back(line);
     }
     return lines;
 }
 
+inline std::string Joined(const Strings& lines)
+{
+    std::string text;
+    for (const std::string& line : lines) {
+        text += "  " + line + "\n";
+    }
+    return text;
+}
+
 } // namespace launchertest
 
+// One whole run of the launcher as a row of a table: what it starts from,
+// the fault or environment it runs in, and what it must leave behind. The
+// hooks get the test's fixture F, whose members they use.
+template <typename F> struct Scenario {
+    std::string name{};
+    const char* levels = nullptr;              // the bundle's level file; null: none (default levels)
+    std::function<void(F&)> setup{};           // home, bundle and installed copy, before the run
+    std::vector<testsupport::EnvChange> env{}; // on top of the fixture's Env(); "<root>/" starts root_
+    std::string kill_at{};              // the preloaded kill shim's CALDERIX_KILL_AT ("trace": its kill
+                                        // and sleep trace into root_/trace); empty: no shim
+    std::function<void(F&)> in_child{}; // runs in the child right before the exec
+    int exit_code = 0;                  // -N: ended by signal N
+    launchertest::Strings log{};        // lines, as Log() shows them, in this order; "!line": absent
+    bool ui = true;                     // the user interface runs afterwards, once (false: not looked at)
+    std::function<void(F&, const testsupport::ProcessResult&)> check{}; // the tree and the rest
+};
+
+template <typename F> void PrintTo(const Scenario<F>& s, std::ostream* os)
+{
+    *os << s.name;
+}
+
 class LauncherFixture : public ::testing::Test {
-protected:
+public:
     void SetUp() override
     {
         // The user interface is started detached (its parent exits at
@@ -106,13 +160,13 @@ protected:
         launcher_ = bundle_ + "/Contents/MacOS/launcher";
         home_ = root_ + "/home";
         tmp_ = root_ + "/tmp";
-        ASSERT_TRUE(testsupport::MakeDirs(home_)) << home_ << ": " << strerror(errno);
-        ASSERT_TRUE(testsupport::MakeDirs(tmp_)) << tmp_ << ": " << strerror(errno);
         install_ = home_ + "/.Calderix";
         app_ = install_ + "/Calderix.app";
         ui_ = app_ + "/Contents/MacOS/calderix-drive-ui";
         package_ = bundle_ + "/Contents/Resources/package/calderix.vpk";
-        ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/Contents/Resources/package")) << strerror(errno);
+        ASSERT_TRUE(testsupport::MakeDirs(home_) && testsupport::MakeDirs(tmp_) &&
+                    testsupport::MakeDirs(bundle_ + "/Contents/Resources/package"))
+            << strerror(errno);
     }
 
     void TearDown() override
@@ -131,6 +185,24 @@ protected:
     {
         ASSERT_TRUE(testsupport::MakeDirs(bundle_ + "/log"));
         ASSERT_TRUE(testsupport::WriteFile(LevelFile(), content)) << LevelFile() << ": " << strerror(errno);
+    }
+
+    // The log's lines as LogLines gives them, with the package, the user's
+    // bundle, ~/.Calderix and the launcher's bundle shown as <vpk>, <app>,
+    // <install> and <bundle>.
+    launchertest::Strings Log() const
+    {
+        const std::pair<std::string, const char*> names[] = {
+            {package_, "<vpk>"}, {app_, "<app>"}, {install_, "<install>"}, {bundle_, "<bundle>"}};
+        launchertest::Strings lines = launchertest::LogLines(testsupport::ReadFile(LogPath()));
+        for (std::string& line : lines) {
+            for (const auto& [path, name] : names) {
+                for (size_t at = line.find(path); at != std::string::npos; at = line.find(path, at)) {
+                    line.replace(at, path.size(), name);
+                }
+            }
+        }
+        return lines;
     }
 
     // The environment of one run: this fixture's home and temporary folder,
@@ -159,17 +231,88 @@ protected:
         EXPECT_EQ(r.out, "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n");
     }
 
+    // Runs one row: its setup, the launcher in its
+    // environment, then checks the outcome, the log lines, the user
+    // interface and the row's own check, each failure saying what differs.
+    template <typename F> void RunScenario(const Scenario<F>& s)
+    {
+        F& self = static_cast<F&>(*this);
+        if (s.levels != nullptr) {
+            SetLevels(s.levels);
+        }
+        if (s.setup) {
+            s.setup(self);
+        }
+        ASSERT_FALSE(HasFailure()) << "the row's setup failed";
+        std::vector<testsupport::EnvChange> env = Env(home_);
+        if (!s.kill_at.empty()) {
+            const char* asan = getenv("ASAN_OPTIONS");
+            // The shim comes ahead of the sanitizer's runtime, which is
+            // harmless here: it only forwards calls.
+            env.insert(env.end(),
+                       {testsupport::Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") +
+                                                             ":verify_asan_link_order=0"),
+                        testsupport::Set("LD_PRELOAD", KILL_SHIM),
+                        testsupport::Set("CALDERIX_KILL_AT",
+                                         s.kill_at == "trace" ? "trace:" + root_ + "/trace" : s.kill_at),
+                        testsupport::Set("CALDERIX_KILL_ROOT", install_)});
+        }
+        for (testsupport::EnvChange change : s.env) {
+            change.value =
+                change.value.rfind("<root>/", 0) == 0 ? root_ + change.value.substr(6) : change.value;
+            env.push_back(change);
+        }
+        const pid_t old_ui = UiPid();
+        const std::function<void()> in_child = [&s, &self] { s.in_child(self); };
+        const testsupport::ProcessResult r =
+            testsupport::Run({launcher_}, env, s.in_child ? in_child : nullptr);
+        EXPECT_TRUE(s.exit_code < 0 ? !r.exited && r.term_signal == -s.exit_code
+                                    : r.exited && r.exit_code == s.exit_code)
+            << "want " << s.exit_code << " (negative: that signal), got exit " << r.exit_code << " signal "
+            << r.term_signal << "\n"
+            << r.err;
+        EXPECT_TRUE(s.exit_code != 0 || r.out == "lib path = '" + bundle_ + "/Contents/Frameworks/plugins'\n")
+            << r.out;
+        const launchertest::Strings log = Log();
+        auto from = log.begin();
+        for (const std::string& want : s.log) {
+            if (want[0] == '!') {
+                EXPECT_EQ(std::find(log.begin(), log.end(), want.substr(1)), log.end())
+                    << "logged \"" << want.substr(1) << "\":\n"
+                    << launchertest::Joined(log);
+                continue;
+            }
+            const auto found = std::find(from, log.end(), want);
+            EXPECT_NE(found, log.end()) << "missing or out of order: \"" << want << "\" in\n"
+                                        << launchertest::Joined(log);
+            from = found == log.end() ? from : found + 1;
+        }
+        if (s.ui) {
+            const pid_t ui = WaitForUi(old_ui);
+            EXPECT_GT(ui, 0) << "no user interface came up";
+            EXPECT_EQ(UiProcesses(), std::vector<pid_t>{ui})
+                << "the user interface was not started exactly once";
+        }
+        if (s.check) {
+            s.check(self, r);
+        }
+    }
+
+    // The pid in ui.pid; 0 when there is none.
+    pid_t UiPid() const
+    {
+        const std::string text = testsupport::ReadFile(install_ + "/ui.pid");
+        return text.rfind("pid=", 0) == 0 ? static_cast<pid_t>(atol(text.c_str() + 4)) : 0;
+    }
+
     // The pid in ui.pid once it names a process other than not_pid; -1
     // when no user interface announces itself within a generous bound.
     pid_t WaitForUi(pid_t not_pid = 0) const
     {
-        for (int i = 0; i < 6000; ++i) {
-            const std::string text = testsupport::ReadFile(install_ + "/ui.pid");
-            const pid_t pid = text.rfind("pid=", 0) == 0 ? static_cast<pid_t>(atol(text.c_str() + 4)) : 0;
-            if (pid > 0 && pid != not_pid) {
-                return pid;
+        for (int i = 0; i < 6000; ++i, usleep(10000)) {
+            if (UiPid() > 0 && UiPid() != not_pid) {
+                return UiPid();
             }
-            usleep(10000);
         }
         return -1;
     }
@@ -198,6 +341,7 @@ protected:
             }
             closedir(dir);
         }
+        std::sort(names.begin(), names.end());
         return names;
     }
 

@@ -22,12 +22,15 @@
 //                                       unlink, rmdir, fsync, fdatasync and
 //                                       syncfs on a path below (or of) the
 //                                       installation folder: "op path", and
-//                                       "rename from to"
+//                                       "rename from to"; and for every kill
+//                                       and sleep: "kill PID SIG ok|ESRCH|error",
+//                                       "sleep SECONDS"
 //
 // The variables are dropped from the environment at load time, so that the
 // processes the launcher starts run unhooked.
 #define _GNU_SOURCE
 #include <dlfcn.h>
+#include <errno.h>
 #include <fcntl.h>
 #include <limits.h>
 #include <signal.h>
@@ -40,6 +43,8 @@
 #include <unistd.h>
 
 enum Mode { kNone, kCreate, kStop, kChmod, kBackupBefore, kBackupAfter, kRemove, kTrace };
+static const char* const kModes[] = {"",        "create:", "stop:", "chmod:", "backup-before", "backup-after",
+                                     "remove:", "trace:"};
 
 static enum Mode mode = kNone;
 static long target;
@@ -53,57 +58,97 @@ __attribute__((constructor)) static void Setup(void)
 {
     const char* at = getenv("CALDERIX_KILL_AT");
     const char* install = getenv("CALDERIX_KILL_ROOT");
-    if (at != NULL && install != NULL) {
-        snprintf(root, sizeof root, "%s", install);
-        snprintf(app, sizeof app, "%s/Calderix.app", install);
-        snprintf(backup, sizeof backup, "%s/Calderix.app_tmp", install);
-        if (strncmp(at, "create:", 7) == 0) {
-            mode = kCreate;
-            target = atol(at + 7);
-        } else if (strncmp(at, "stop:", 5) == 0) {
-            mode = kStop;
-            target = atol(at + 5);
-        } else if (strncmp(at, "chmod:", 6) == 0) {
-            mode = kChmod;
-            target = atol(at + 6);
-        } else if (strncmp(at, "remove:", 7) == 0) {
-            mode = kRemove;
-            target = atol(at + 7);
-        } else if (strcmp(at, "backup-before") == 0) {
-            mode = kBackupBefore;
-        } else if (strcmp(at, "backup-after") == 0) {
-            mode = kBackupAfter;
-        } else if (strncmp(at, "trace:", 6) == 0) {
-            mode = kTrace;
-            trace_fd =
-                (int)syscall(SYS_openat, AT_FDCWD, at + 6, O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644);
-            if (trace_fd < 0) {
-                abort();
-            }
+    for (int m = kCreate; at != NULL && install != NULL && m <= kTrace; ++m) {
+        const size_t n = strlen(kModes[m]);
+        if (strncmp(at, kModes[m], n) == 0 && (kModes[m][n - 1] == ':' || at[n] == '\0')) {
+            mode = (enum Mode)m;
+            target = atol(at + n);
+            snprintf(root, sizeof root, "%s", install);
+            snprintf(app, sizeof app, "%s/Calderix.app", install);
+            snprintf(backup, sizeof backup, "%s/Calderix.app_tmp", install);
         }
+    }
+    if (mode == kTrace && (trace_fd = (int)syscall(SYS_openat, AT_FDCWD, at + 6,
+                                                   O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644)) < 0) {
+        abort();
     }
     unsetenv("LD_PRELOAD");
     unsetenv("CALDERIX_KILL_AT");
     unsetenv("CALDERIX_KILL_ROOT");
 }
 
+static void* Next(const char* name)
+{
+    void* f = dlsym(RTLD_NEXT, name);
+    if (f == NULL) {
+        abort();
+    }
+    return f;
+}
+
+// Looks the real function up once.
+#define REAL(name)                                                                                           \
+    static __typeof__(&name) real_##name;                                                                    \
+    if (real_##name == NULL) {                                                                               \
+        real_##name = (__typeof__(&name))Next(#name);                                                        \
+    }
+
 static void Die(void)
 {
     syscall(SYS_kill, getpid(), SIGKILL);
 }
 
-// path lies strictly below folder.
-static int Below(const char* path, const char* folder)
+// path is folder or (strictly) below it.
+static int Under(const char* path, const char* folder, int or_itself)
 {
     const size_t n = strlen(folder);
-    return path != NULL && strncmp(path, folder, n) == 0 && path[n] == '/';
+    return path != NULL && strncmp(path, folder, n) == 0 &&
+           (path[n] == '/' || (or_itself && path[n] == '\0'));
 }
 
-static void Created(int result, const char* path)
+// In trace mode, one line to the trace, written with the system call itself
+// so that the trace never traces itself.
+__attribute__((format(printf, 1, 2))) static void Put(const char* fmt, ...)
 {
-    if ((mode != kCreate && mode != kStop && mode != kChmod) || result < 0 || !Below(path, app) ||
+    char line[3 * PATH_MAX];
+    va_list ap;
+    va_start(ap, fmt);
+    const int length = vsnprintf(line, sizeof line, fmt, ap);
+    va_end(ap);
+    if (mode == kTrace && length > 0 && (size_t)length < sizeof line) {
+        syscall(SYS_write, trace_fd, line, (size_t)length);
+    }
+}
+
+// r, the result of a call on path (or below the installation folder),
+// traced as op when it succeeded.
+static int Traced(int r, const char* op, const char* path, const char* other)
+{
+    if (r == 0 && mode == kTrace && Under(path, root, 1)) {
+        Put("%s %s%s%s\n", op, path, other != NULL ? " " : "", other != NULL ? other : "");
+    }
+    return r;
+}
+
+// The same for a call on an open descriptor, named by the path it has.
+static int TracedFd(int r, const char* op, int fd)
+{
+    char link[64];
+    char path[PATH_MAX];
+    snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
+    const ssize_t n = mode == kTrace && r == 0 ? readlink(link, path, sizeof path - 1) : -1;
+    if (n > 0) {
+        path[n] = '\0';
+        Traced(0, op, path, NULL);
+    }
+    return r;
+}
+
+static int Created(int result, const char* path)
+{
+    if ((mode != kCreate && mode != kStop && mode != kChmod) || result < 0 || !Under(path, app, 0) ||
         __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) != target) {
-        return;
+        return result;
     }
     if (mode == kCreate) {
         Die();
@@ -117,71 +162,19 @@ static void Created(int result, const char* path)
             abort();
         }
     }
-}
-
-// In trace mode: one line "op path[ other]" for a path below or of the
-// installation folder, written with the system call itself so that the
-// trace never traces itself.
-static void Trace(const char* op, const char* path, const char* other)
-{
-    const size_t n = strlen(root);
-    if (mode != kTrace || path == NULL || strncmp(path, root, n) != 0 ||
-        (path[n] != '/' && path[n] != '\0')) {
-        return;
-    }
-    char line[3 * PATH_MAX];
-    const int length = snprintf(line, sizeof line, "%s %s%s%s\n", op, path, other != NULL ? " " : "",
-                                other != NULL ? other : "");
-    if (length > 0 && (size_t)length < sizeof line) {
-        syscall(SYS_write, trace_fd, line, (size_t)length);
-    }
-}
-
-// The path an open descriptor names, for tracing; empty when unknown.
-static void TraceFd(const char* op, int fd)
-{
-    if (mode != kTrace) {
-        return;
-    }
-    char link[64];
-    char path[PATH_MAX];
-    snprintf(link, sizeof link, "/proc/self/fd/%d", fd);
-    const ssize_t n = readlink(link, path, sizeof path - 1);
-    if (n > 0) {
-        path[n] = '\0';
-        Trace(op, path, NULL);
-    }
-}
-
-static void* Next(const char* name)
-{
-    void* f = dlsym(RTLD_NEXT, name);
-    if (f == NULL) {
-        abort();
-    }
-    return f;
+    return result;
 }
 
 int mkdir(const char* path, mode_t m)
 {
-    static int (*real)(const char*, mode_t);
-    if (real == NULL) {
-        real = (int (*)(const char*, mode_t))Next("mkdir");
-    }
-    const int r = real(path, m);
-    Created(r, path);
-    return r;
+    REAL(mkdir)
+    return Created(real_mkdir(path, m), path);
 }
 
 int symlink(const char* to, const char* path)
 {
-    static int (*real)(const char*, const char*);
-    if (real == NULL) {
-        real = (int (*)(const char*, const char*))Next("symlink");
-    }
-    const int r = real(to, path);
-    Created(r, path);
-    return r;
+    REAL(symlink)
+    return Created(real_symlink(to, path), path);
 }
 
 static mode_t ModeArgument(int flags, va_list ap)
@@ -191,54 +184,36 @@ static mode_t ModeArgument(int flags, va_list ap)
 
 int open(const char* path, int flags, ...)
 {
-    static int (*real)(const char*, int, ...);
-    if (real == NULL) {
-        real = (int (*)(const char*, int, ...))Next("open");
-    }
+    REAL(open)
     va_list ap;
     va_start(ap, flags);
     const mode_t m = ModeArgument(flags, ap);
     va_end(ap);
-    const int r = real(path, flags, m);
-    if ((flags & O_CREAT) != 0) {
-        Created(r, path);
-    }
-    return r;
+    const int r = real_open(path, flags, m);
+    return (flags & O_CREAT) != 0 ? Created(r, path) : r;
 }
 
 int open64(const char* path, int flags, ...) __attribute__((alias("open")));
 
 int openat(int dirfd, const char* path, int flags, ...)
 {
-    static int (*real)(int, const char*, int, ...);
-    if (real == NULL) {
-        real = (int (*)(int, const char*, int, ...))Next("openat");
-    }
+    REAL(openat)
     va_list ap;
     va_start(ap, flags);
     const mode_t m = ModeArgument(flags, ap);
     va_end(ap);
-    const int r = real(dirfd, path, flags, m);
-    if ((flags & O_CREAT) != 0) {
-        Created(r, path);
-    }
-    return r;
+    const int r = real_openat(dirfd, path, flags, m);
+    return (flags & O_CREAT) != 0 ? Created(r, path) : r;
 }
 
 int rename(const char* from, const char* to)
 {
-    static int (*real)(const char*, const char*);
-    if (real == NULL) {
-        real = (int (*)(const char*, const char*))Next("rename");
-    }
+    REAL(rename)
     const int backing_up = strcmp(from, app) == 0 && strcmp(to, backup) == 0;
     if (backing_up && mode == kBackupBefore) {
         Die();
     }
-    const int r = real(from, to);
-    if (r == 0) {
-        Trace("rename", from, to);
-    }
+    const int r = Traced(real_rename(from, to), "rename", from, to);
     if (backing_up && r == 0 && mode == kBackupAfter) {
         Die();
     }
@@ -247,89 +222,66 @@ int rename(const char* from, const char* to)
 
 int remove(const char* path)
 {
-    static int (*real)(const char*);
-    if (real == NULL) {
-        real = (int (*)(const char*))Next("remove");
-    }
-    const int r = real(path);
-    if (r == 0) {
-        Trace("remove", path, NULL);
-    }
-    if (mode == kRemove && r == 0 && (strcmp(path, backup) == 0 || Below(path, backup)) &&
+    REAL(remove)
+    const int r = Traced(real_remove(path), "remove", path, NULL);
+    if (mode == kRemove && r == 0 && Under(path, backup, 1) &&
         __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) == target) {
         Die();
     }
     return r;
 }
 
-// Looks the real function up once; the macro keeps each wrapper to its
-// own work.
-#define REAL(name)                                                                                           \
-    static __typeof__(&name) real_##name;                                                                    \
-    if (real_##name == NULL) {                                                                               \
-        real_##name = (__typeof__(&name))Next(#name);                                                        \
-    }
-
 ssize_t write(int fd, const void* data, size_t size)
 {
     REAL(write)
     const ssize_t r = real_write(fd, data, size);
-    if (r > 0) {
-        TraceFd("write", fd);
-    }
-    return r;
-}
-
-// r, the result of a call on path (or fd), traced as op when it succeeded.
-static int Traced(int r, const char* op, const char* path)
-{
-    if (r == 0) {
-        Trace(op, path, NULL);
-    }
-    return r;
-}
-
-static int TracedFd(int r, const char* op, int fd)
-{
-    if (r == 0) {
-        TraceFd(op, fd);
-    }
+    TracedFd(r > 0 ? 0 : -1, "write", fd);
     return r;
 }
 
 int unlink(const char* path)
 {
     REAL(unlink)
-    return Traced(real_unlink(path), "unlink", path);
+    return Traced(real_unlink(path), "unlink", path, NULL);
 }
 
 int rmdir(const char* path)
 {
     REAL(rmdir)
-    return Traced(real_rmdir(path), "rmdir", path);
+    return Traced(real_rmdir(path), "rmdir", path, NULL);
 }
 
 // Traced only for absolute paths, which is how the upgrade names them.
 int unlinkat(int dirfd, const char* path, int flags)
 {
     REAL(unlinkat)
-    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path);
+    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path,
+                  NULL);
 }
 
-int fsync(int fd)
+// fsync, fdatasync and syncfs, traced.
+#define TRACED_FD(name)                                                                                      \
+    int name(int fd)                                                                                         \
+    {                                                                                                        \
+        REAL(name)                                                                                           \
+        return TracedFd(real_##name(fd), #name, fd);                                                         \
+    }
+TRACED_FD(fsync)
+TRACED_FD(fdatasync)
+TRACED_FD(syncfs)
+
+int kill(pid_t pid, int sig)
 {
-    REAL(fsync)
-    return TracedFd(real_fsync(fd), "fsync", fd);
+    const int r = (int)syscall(SYS_kill, pid, sig);
+    const int saved = errno;
+    Put("kill %d %d %s\n", (int)pid, sig, r == 0 ? "ok" : saved == ESRCH ? "ESRCH" : "error");
+    errno = saved;
+    return r;
 }
 
-int fdatasync(int fd)
+unsigned int sleep(unsigned int seconds)
 {
-    REAL(fdatasync)
-    return TracedFd(real_fdatasync(fd), "fdatasync", fd);
-}
-
-int syncfs(int fd)
-{
-    REAL(syncfs)
-    return TracedFd(real_syncfs(fd), "syncfs", fd);
+    REAL(sleep)
+    Put("sleep %u\n", seconds);
+    return real_sleep(seconds);
 }

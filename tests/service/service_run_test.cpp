@@ -1,198 +1,215 @@
 // The installation service as the real launcher runs it from a copy of the
-// demo bundle with a fake home: the upgrade decision, the upgrade itself,
-// stopping the old user interface, and the whole sequence over a running
-// old copy. These runs are also the launcher's own end-to-end scenarios
-// (first installation, nothing to upgrade, upgrade over a running UI); the
-// damaged package and the second start during an upgrade are whole runs in
-// tests/reliability, the refused start's levels in startup_test.
-#include <algorithm>
-#include <sys/wait.h>
+// demo bundle with a fake home, as rows of the launcher's scenario runner:
+// the upgrade decision, the upgrade, and stopping the old user interface
+// (the kill shim traces each kill and sleep). Rows that must not signal run
+// as nobody, so that a stray signal can only reach nobody's processes.
+#include <filesystem>
+#include <ftw.h>
+#include <grp.h>
+#include <sched.h>
 #include <thread>
 
-#include "service_run_fixture.h"
+#include "reliability_fixture.h"
 
 using namespace testsupport;
+using launchertest::Strings;
+using reliability::Snapshot;
 
 namespace {
 
-const char kRunning[] = "[DEBUG] launcher(%d): running";
-const char kNoUpgrade[] = "[DEBUG] launcher(%d): no need to upgrade";
-const char kFailed[] = "[ERROR] launcher(%d): Failed to upgrade package";
-const char kDone[] = "[DEBUG] launcher(%d): done";
+class ServiceRun : public ReliabilityFixture, public ::testing::WithParamInterface<Scenario<ServiceRun>> {
+public:
+    using ReliabilityFixture::ClientBundle;
+    using ReliabilityFixture::InstallCopy;
+    using ReliabilityFixture::PackClient;
+
+    // The kill and sleep calls the kill shim traced, and what StopService
+    // logged during an upgrade over an installed copy; <pid> stands for pid_.
+    Strings Trace() const
+    {
+        Strings calls = Lines(ReadFile(root_ + "/trace"));
+        calls.erase(
+            std::remove_if(calls.begin(), calls.end(),
+                           [](const std::string& l) { return l.rfind("kill ", 0) && l.rfind("sleep ", 0); }),
+            calls.end());
+        return Pid(calls);
+    }
+    Strings StopLines() const
+    {
+        const Strings log = Pid(Log());
+        auto from = std::find(log.begin(), log.end(), "[DEBUG] mac/mac-service(%d): local appdata exist");
+        auto to = std::find_if(from, log.end(),
+                               [](const std::string& l) { return l.find("extract package") != l.npos; });
+        return from == log.end() ? Strings{"<no stop>"} : Strings(from + 1, to);
+    }
+    Strings Pid(Strings lines) const
+    {
+        const std::string pid = std::to_string(pid_);
+        for (std::string& line : lines) {
+            const size_t at = pid_ > 0 ? line.find(" " + pid + " ") : line.npos;
+            line = at == line.npos ? line : line.replace(at + 1, pid.size(), "<pid>");
+        }
+        return lines;
+    }
+
+    // A child of the test running a copy of sleep at path below the fixture
+    // (so that TearDown ends it), returned once it runs; its bound only
+    // keeps a failing test from hanging.
+    pid_t StartSleeper(bool as_nobody, bool ignore_term = false, const std::string& path = {})
+    {
+        const std::string sleep = path.empty() ? root_ + "/sleep" : path;
+        EXPECT_TRUE(CopyTree("/bin/sleep", sleep)) << strerror(errno);
+        Strings argv{sleep, "60"};
+        if (as_nobody) {
+            argv.insert(argv.begin(),
+                        {"/usr/bin/setpriv", "--reuid=65534", "--regid=65534", "--clear-groups", "--"});
+        }
+        // An ignored signal stays ignored across fork and exec.
+        const sighandler_t saved = signal(SIGTERM, ignore_term ? SIG_IGN : SIG_DFL);
+        const pid_t pid = Start(argv);
+        signal(SIGTERM, saved);
+        std::error_code ec;
+        for (int i = 0;
+             i < 6000 && std::filesystem::read_symlink("/proc/" + std::to_string(pid) + "/exe", ec) != sleep;
+             ++i) {
+            usleep(10000);
+        }
+        EXPECT_GT(pid, 0) << strerror(errno);
+        return pid;
+    }
+
+    reliability::Tree before_; // the user's bundle before the run
+    pid_t pid_ = 0;            // the process the row's pid file names
+    int status_ = -1;          // its wait status, once reaped
+    std::thread reaper_;
+};
+
+TEST_P(ServiceRun, Scenario)
+{
+    RunScenario(GetParam());
+}
+
+using Row = Scenario<ServiceRun>;
+const char kAll[] = "launcher_debug=7\nservice_debug=7\n";
+const std::string kNoUpgrade = "[DEBUG] launcher(%d): no need to upgrade";
+const std::string kFailed = "[ERROR] launcher(%d): Failed to upgrade package";
 const char kExtract[] = "[INFO] calderix-service(%d): extract package: '<vpk>' -> '<app>'";
 const char kReady[] = "[INFO] calderix-service(%d): user installation is ready, removing backup app";
-const char kNoRollback[] =
-    "[ERROR] calderix-service(%d): Failed to extract package, and no old installation to rollback";
-
-std::string VersionFile(const std::string& build)
-{
-    return "[Version]\nmajor_version=3\nminor_version=1\nbuild_version=" + build +
-           "\nicon_overlay_version=7\n";
-}
 
 std::string Decided(const std::string& source, const std::string& target)
 {
     return "[DEBUG] mac/mac-service(%d): source version = " + source + ", target version = " + target;
 }
 
-std::string BackupName(int n)
+std::string Backup(int n)
 {
-    return "Calderix.app_tmp" + (n == 0 ? std::string() : std::to_string(n));
+    return "_tmp" + (n == 0 ? std::string() : std::to_string(n));
 }
 
 std::string BackupFailed(int n)
 {
-    return "[ERROR] calderix-service(%d): failed to backup app from '<app>' -> '<app>_tmp" +
-           (n == 0 ? std::string() : std::to_string(n)) + "'";
+    return "[ERROR] calderix-service(%d): failed to backup app from '<app>' -> '<app>" + Backup(n) + "'";
 }
 
 // ------------------------------------------------------------------ versions and decision
 
-struct DecisionCase {
-    const char* name;
-    const char* package_info;   // the launcher bundle's INFO: a build for VersionFile(), or a
-                                // whole file when it starts with "["; null: none
-    const char* installed_info; // the same for the user's copy
-    bool ui_present;
-    bool need;
-    Strings tail; // the last of the five lines every run starts with
-};
-
-class Decision : public ServiceRun, public ::testing::WithParamInterface<DecisionCase> {};
-
-TEST_P(Decision, LogsBothVersionsComparesTheBuildsAndStartsTheUi)
+// The launcher bundle's INFO and the user's copy's: a build number, a whole
+// file when it starts with "[", or none (null); the UI executable there or not.
+Row Decision(const char* name, const char* package, const char* installed, bool ui, bool need, Strings log)
 {
-    const DecisionCase& c = GetParam();
-    const auto info = [](const std::string& text) { return text[0] == '[' ? text : VersionFile(text); };
-    const std::string bundle_info = bundle_ + "/Contents/Resources/INFO";
-    ASSERT_TRUE(c.package_info != nullptr ? WriteFile(bundle_info, info(c.package_info))
-                                          : RemoveTree(bundle_info))
-        << bundle_info << ": " << strerror(errno);
-    ASSERT_TRUE(MakeDirs(app_ + "/Contents/MacOS") && MakeDirs(app_ + "/Contents/Resources"))
-        << strerror(errno);
-    if (c.installed_info != nullptr) {
-        ASSERT_TRUE(WriteFile(app_ + "/Contents/Resources/INFO", info(c.installed_info))) << strerror(errno);
-    }
-    if (c.ui_present) {
-        ASSERT_TRUE(CopyTree(DEMO_UI_PATH, ui_)) << ui_ << ": " << strerror(errno);
-    }
-    const reliability::Tree before = reliability::Snapshot(app_);
-
-    ExpectCleanExit(RunLauncher());
-    const Strings lines = Lines();
-    ASSERT_GE(lines.size(), 5u) << ::testing::PrintToString(lines);
-    EXPECT_EQ(Strings(lines.begin() + 5 - c.tail.size(), lines.begin() + 5), c.tail);
-    // Without "no need to upgrade" the worker took the branch that shows the dialog.
-    EXPECT_EQ(LogOf("] launcher(%d): "),
-              (c.need ? Strings{kRunning, kDone} : Strings{kRunning, kNoUpgrade, kDone}));
-    if (!c.need) {
-        EXPECT_EQ(reliability::Snapshot(app_), before) << "a current copy was changed";
-    }
-    ExpectUiStartedOnce();
+    log.insert(log.end(), {need ? "!" + kNoUpgrade : kNoUpgrade, "[DEBUG] launcher(%d): done"});
+    Row r{.name = name, .levels = kAll, .log = log};
+    r.setup = [=](ServiceRun& f) {
+        for (const auto& [text, path] :
+             {std::make_pair(package, f.bundle_), std::make_pair(installed, f.app_)}) {
+            const std::string info = path + "/Contents/Resources/INFO", build = text != nullptr ? text : "";
+            EXPECT_TRUE(
+                MakeDirs(f.app_ + "/Contents/MacOS") && MakeDirs(f.app_ + "/Contents/Resources") &&
+                (text != nullptr
+                     ? WriteFile(info, text[0] == '['
+                                           ? build
+                                           : "[Version]\nmajor_version=3\nminor_version=1\nbuild_version=" +
+                                                 build + "\nicon_overlay_version=7\n")
+                     : RemoveTree(info)))
+                << info << ": " << strerror(errno);
+        }
+        EXPECT_TRUE(!ui || CopyTree(DEMO_UI_PATH, f.ui_)) << f.ui_ << ": " << strerror(errno);
+        f.before_ = Snapshot(f.app_);
+    };
+    r.check = [need](ServiceRun& f, const ProcessResult&) {
+        EXPECT_TRUE(need || Snapshot(f.app_) == f.before_) << "a current copy was changed";
+    };
+    return r;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Builds, Decision,
-    ::testing::Values(
-        DecisionCase{"SameBuild", "1201", "1201", true, false, {Decided("1201", "1201")}},
-        DecisionCase{"PackageOlder", "1201", "1202", true, false, {Decided("1202", "1201")}},
-        DecisionCase{"UiMissingSameBuild", "1201", "1201", false, true, {Decided("1201", "1201")}},
-        DecisionCase{"BothEmptyUiPresent", nullptr, nullptr, true, false, {Decided("0", "0")}},
-        DecisionCase{"DigitsThenLetter", "12b", "11", true, true, {Decided("11", "12")}},
-        DecisionCase{"SignedComparison", "0", "-3", true, true, {Decided("-3", "0")}},
-        DecisionCase{"BuildBeyondInt",
-                     "99999999999",
-                     "1200",
-                     true,
-                     true,
-                     {"[WARNING] mac/mac-service(%d): build number '99999999999' is out of range"}},
-        DecisionCase{"NoInstalledCopy",
-                     "1201",
-                     nullptr,
-                     false,
-                     true,
-                     {"[INFO] calderix-service(%d): target_version = (3, 1, 1201, 7)",
-                      "[INFO] calderix-service(%d): source does not exist",
-                      "[DEBUG] mac/mac-service(%d): Source version: ('', '')",
-                      "[DEBUG] mac/mac-service(%d): Target version: ('1201', '7')", Decided("0", "1201")}},
-        DecisionCase{"BundleWithoutVersionFile",
-                     nullptr,
-                     "1200",
-                     true,
-                     false,
-                     {"[INFO] calderix-service(%d): target_version = (, , , )",
-                      "[INFO] calderix-service(%d): source_version = (3, 1, 1200, 7)",
-                      "[DEBUG] mac/mac-service(%d): Source version: ('1200', '7')",
-                      "[DEBUG] mac/mac-service(%d): Target version: ('', '')", Decided("1200", "0")}},
-        DecisionCase{"BuildOutsideTheVersionSection",
-                     "[General]\nbuild_version=1234\n",
-                     "[General]\nbuild_version=1234\n[Version]\nmajor_version=2a\n",
-                     true,
-                     false,
-                     {"[INFO] calderix-service(%d): target_version = (, , , )",
-                      "[INFO] calderix-service(%d): source_version = (2a, , , )",
-                      "[DEBUG] mac/mac-service(%d): Source version: ('', '')",
-                      "[DEBUG] mac/mac-service(%d): Target version: ('', '')", Decided("0", "0")}}),
-    servicetest::RowName<DecisionCase>);
+const Row kDecisions[] = {
+    Decision("SameBuild", "1201", "1201", true, false, {Decided("1201", "1201")}),
+    Decision("PackageOlder", "1201", "1202", true, false, {Decided("1202", "1201")}),
+    Decision("UiMissingSameBuild", "1201", "1201", false, true, {Decided("1201", "1201")}),
+    Decision("BothEmptyUiPresent", nullptr, nullptr, true, false, {Decided("0", "0")}),
+    Decision("DigitsThenLetter", "12b", "11", true, true, {Decided("11", "12")}),
+    Decision("SignedComparison", "0", "-3", true, true, {Decided("-3", "0")}),
+    Decision("BuildBeyondInt", "99999999999", "1200", true, true,
+             {"[WARNING] mac/mac-service(%d): build number '99999999999' is out of range"}),
+    Decision("NoInstalledCopy", "1201", nullptr, false, true,
+             {"[INFO] calderix-service(%d): target_version = (3, 1, 1201, 7)",
+              "[INFO] calderix-service(%d): source does not exist",
+              "[DEBUG] mac/mac-service(%d): Source version: ('', '')",
+              "[DEBUG] mac/mac-service(%d): Target version: ('1201', '7')", Decided("0", "1201")}),
+    Decision("BundleWithoutVersionFile", nullptr, "1200", true, false,
+             {"[INFO] calderix-service(%d): target_version = (, , , )",
+              "[INFO] calderix-service(%d): source_version = (3, 1, 1200, 7)",
+              "[DEBUG] mac/mac-service(%d): Source version: ('1200', '7')",
+              "[DEBUG] mac/mac-service(%d): Target version: ('', '')", Decided("1200", "0")}),
+    Decision("BuildOutsideTheVersionSection", "[General]\nbuild_version=1234\n",
+             "[General]\nbuild_version=1234\n[Version]\nmajor_version=2a\n", true, false,
+             {"[INFO] calderix-service(%d): target_version = (, , , )",
+              "[INFO] calderix-service(%d): source_version = (2a, , , )",
+              "[DEBUG] mac/mac-service(%d): Source version: ('', '')",
+              "[DEBUG] mac/mac-service(%d): Target version: ('', '')", Decided("0", "0")}),
+};
+INSTANTIATE_TEST_SUITE_P(Decisions, ServiceRun, ::testing::ValuesIn(kDecisions), RowName());
 
 // ------------------------------------------------------------------ upgrade
 
-struct UpgradeCase {
-    const char* name;
-    bool old_copy;            // an installed copy of build 1200
-    std::vector<int> blocked; // backup tries whose name a non-empty folder takes
-    bool damaged;             // the package is cut in the middle of its data
-    Strings lines;            // what the upgrade logs
-    std::vector<int> left;    // the blocked names still there afterwards
-};
-
-class Upgrade : public ServiceRun, public ::testing::WithParamInterface<UpgradeCase> {};
-
-TEST_P(Upgrade, ReplacesTheCopyOrLeavesTheOldOne)
+// Over an old copy of build 1200 (or none) with the backup names blocked
+// taken by non-empty folders, to a package of 1201 (cut in the middle when
+// damaged); the blocked names in left stay, the others go.
+Row Upgrade(const char* name, bool old, std::vector<int> blocked, bool damaged, Strings log,
+            std::vector<int> left)
 {
-    const UpgradeCase& c = GetParam();
-    SetLevels("launcher_debug=7\nservice_debug=6\n");
-    if (c.old_copy) {
-        InstallCopy("1200");
-    }
-    for (int n : c.blocked) {
-        const std::string path = install_ + "/" + BackupName(n);
-        ASSERT_TRUE(MakeDirs(path) && WriteFile(path + "/left-over", "kept"))
-            << path << ": " << strerror(errno);
-    }
-    ASSERT_GT(PackClient("1201", 4, 10), 40);
-    if (c.damaged) {
-        ASSERT_EQ(truncate(package_.c_str(), static_cast<off_t>(ReadFile(package_).size() / 2)), 0)
-            << package_ << ": " << strerror(errno);
-    }
-    const reliability::Tree before = reliability::Snapshot(app_);
-
-    ExpectCleanExit(RunLauncher());
-    EXPECT_EQ(Lines("[INFO] calderix-service(%d): source", "[INFO] calderix-service(%d): removing aged"),
-              c.lines);
-    const bool upgraded = c.lines.back() == kReady;
-    EXPECT_EQ(LogOf("] launcher(%d): "),
-              (upgraded ? Strings{kRunning, kDone} : Strings{kRunning, kFailed, kDone}));
-    if (upgraded) {
-        EXPECT_EQ(reliability::Snapshot(app_), reliability::Snapshot(ClientBundle("1201", 4, 10)));
-    } else if (c.old_copy) {
-        EXPECT_EQ(reliability::Snapshot(app_), before) << "the old copy must stay as it was";
-    } else {
-        // A package cut short lacks its last entries, the UI executable and
-        // the version file, and is refused before anything is written.
-        EXPECT_TRUE(Exists(app_)) << "without an old copy the folder made for the extraction stays";
-        EXPECT_FALSE(Exists(app_ + "/Contents/Info.plist")) << "a refused package was written";
-    }
-    Strings backups = Backups(), left;
-    std::sort(backups.begin(), backups.end());
-    for (int n : c.left) {
-        left.push_back(BackupName(n));
-        EXPECT_EQ(ReadFile(install_ + "/" + BackupName(n) + "/left-over"), "kept") << BackupName(n);
-    }
-    EXPECT_EQ(backups, left) << "the backups tried must go, the others stay";
-    if (upgraded || c.old_copy) {
-        ExpectUiStartedOnce();
-    }
+    const bool upgraded = log.back() == kReady;
+    log.push_back(upgraded ? "!" + kFailed : kFailed);
+    Row r{.name = name, .levels = "launcher_debug=7\nservice_debug=6\n", .log = log, .ui = upgraded || old};
+    r.setup = [=](ServiceRun& f) {
+        if (old) {
+            f.InstallCopy("1200");
+        }
+        for (int n : blocked) {
+            EXPECT_TRUE(MakeDirs(f.app_ + Backup(n)) && WriteFile(f.app_ + Backup(n) + "/left-over", "kept"));
+        }
+        ASSERT_GT(f.PackClient("1201", 4, 10), 40);
+        ASSERT_TRUE(!damaged ||
+                    truncate(f.package_.c_str(), static_cast<off_t>(ReadFile(f.package_).size() / 2)) == 0);
+        f.before_ = Snapshot(f.app_);
+    };
+    r.check = [=](ServiceRun& f, const ProcessResult&) {
+        if (upgraded || old) {
+            EXPECT_EQ(Snapshot(f.app_), upgraded ? Snapshot(f.ClientBundle("1201", 4, 10)) : f.before_)
+                << "want the new copy or else the old one as it was";
+        } else {
+            // A package cut short lacks its last entries and is refused before anything is written.
+            EXPECT_TRUE(Exists(f.app_) && !Exists(f.app_ + "/Contents/Info.plist"))
+                << "the folder made for the extraction must stay, empty";
+        }
+        Strings names;
+        for (int n : left) {
+            names.push_back("Calderix.app" + Backup(n));
+            EXPECT_EQ(ReadFile(f.app_ + Backup(n) + "/left-over"), "kept") << Backup(n);
+        }
+        EXPECT_EQ(f.Backups(), names) << "the backups tried must go, the others stay";
+    };
+    return r;
 }
 
 Strings AllNamesBlocked()
@@ -205,193 +222,225 @@ Strings AllNamesBlocked()
     return lines;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Paths, Upgrade,
-    ::testing::Values(
-        UpgradeCase{"FirstInstallation", false, {}, false, {kExtract, kReady}, {}},
-        UpgradeCase{"LeftoverBackup", true, {0, 5}, false, {BackupFailed(0), kExtract, kReady}, {5}},
-        UpgradeCase{"AllBackupNamesBlocked",
-                    true,
-                    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9},
-                    false,
-                    AllNamesBlocked(),
-                    {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
-        UpgradeCase{"ExtractionFailsWithoutOldCopy", false, {}, true, {kExtract, kNoRollback}, {}}),
-    servicetest::RowName<UpgradeCase>);
+const Row kUpgrades[] = {
+    Upgrade("FirstInstallation", false, {}, false, {kExtract, kReady}, {}),
+    Upgrade("LeftoverBackup", true, {0, 5}, false, {BackupFailed(0), kExtract, kReady}, {5}),
+    Upgrade("AllBackupNamesBlocked", true, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, false, AllNamesBlocked(),
+            {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}),
+    Upgrade("ExtractionFailsWithoutOldCopy", false, {}, true,
+            {kExtract,
+             "[ERROR] calderix-service(%d): Failed to extract package, and no old installation to rollback"},
+            {}),
+};
+INSTANTIATE_TEST_SUITE_P(Upgrades, ServiceRun, ::testing::ValuesIn(kUpgrades), RowName());
 
 // ------------------------------------------------------------------ stopping the old user interface
+
+// Over an installed 1200 with a package of 1201 and the ui.pid that pid_file
+// gives (empty: none): StopService's lines and the kill and sleep calls it
+// made, <pid> standing for pid_.
+Row Stop(const char* name, std::function<std::string(ServiceRun&)> pid_file, Strings stop, Strings trace = {})
+{
+    Row r{.name = name, .levels = kAll, .kill_at = "trace"};
+    r.setup = [=](ServiceRun& f) {
+        f.InstallCopy("1200");
+        f.PackClient("1201");
+        const std::string text = pid_file(f);
+        EXPECT_TRUE(text.empty() || WriteFile(f.install_ + "/ui.pid", text)) << strerror(errno);
+    };
+    r.check = [=](ServiceRun& f, const ProcessResult&) {
+        EXPECT_EQ(f.Trace(), trace);
+        EXPECT_EQ(f.StopLines(), stop);
+        EXPECT_EQ(Snapshot(f.app_), Snapshot(f.ClientBundle("1201")));
+    };
+    return r;
+}
+
+// A row whose pid file names the process who starts.
+Row Named(const char* name, std::function<pid_t(ServiceRun&)> who, Strings stop, Strings trace = {})
+{
+    return Stop(
+        name, [who](ServiceRun& f) { return "pid=" + std::to_string(f.pid_ = who(f)) + "\n"; }, stop, trace);
+}
+
+// The launcher and a watcher run as nobody in the test's process group: a
+// signal to pid 0 or -1 would reach the watcher (or the launcher itself),
+// which only the test's SIGKILL may end.
+Row BadPid(const char* name, const char* content, const std::string& line)
+{
+    Row r = Stop(name,
+                 [content](ServiceRun& f) {
+                     EXPECT_TRUE(content == nullptr || std::string(content) != "/" ||
+                                 MakeDirs(f.install_ + "/ui.pid"));
+                     EXPECT_EQ(nftw(
+                                   f.root_.c_str(),
+                                   [](const char* p, const struct stat*, int, FTW*) {
+                                       return lchown(p, 65534, 65534);
+                                   },
+                                   16, FTW_PHYS),
+                               0)
+                         << strerror(errno);
+                     f.pid_ = -f.StartSleeper(true); // negative: not shown as <pid>
+                     return content == nullptr || std::string(content) == "/" ? std::string() : content;
+                 },
+                 {line});
+    r.in_child = [](ServiceRun&) {
+        if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0) {
+            perror("dropping root");
+            _exit(127);
+        }
+    };
+    r.ui = false;
+    r.check = [check = r.check](ServiceRun& f, const ProcessResult& result) {
+        check(f, result);
+        ASSERT_EQ(kill(-f.pid_, SIGKILL), 0) << strerror(errno);
+        const int status = Wait(-f.pid_);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
+            << "a signal reached the watcher: " << status;
+    };
+    return r;
+}
+
+// A user interface that outlives SIGTERM (also with its file removed, as a
+// finished upgrade removes the old copy) is probed five times, then killed.
+Row Slow(const char* name, bool removed)
+{
+    Strings trace{"kill <pid> 15 ok"};
+    for (int probe = 0; probe < 5; ++probe) {
+        trace.insert(trace.end(), {"kill <pid> 0 ok", "sleep 1"});
+    }
+    trace.push_back("kill <pid> 9 ok");
+    Row r = Named(
+        name,
+        [removed](ServiceRun& f) {
+            const std::string exe = f.app_ + "/Contents/MacOS/calderix-sleep";
+            const pid_t pid = f.StartSleeper(false, true, exe);
+            EXPECT_TRUE(!removed || remove(exe.c_str()) == 0) << exe << ": " << strerror(errno);
+            return pid;
+        },
+        {}, trace);
+    r.check = [check = r.check](ServiceRun& f, const ProcessResult& result) {
+        check(f, result);
+        const int status = Wait(f.pid_);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL) << "wait status " << status;
+    };
+    return r;
+}
+
+// For a child about to exec: moves it into user and pid namespaces of its
+// own, below the new namespace's init (pid 1), which is its parent; the
+// program runs as pid 2 and the processes it leaves exit with its status.
+void BelowNamespaceInit(ServiceRun&)
+{
+    EnterUserNamespace(CLONE_NEWPID);
+    for (int level = 0; level < 2; ++level) {
+        const pid_t child = fork();
+        int status = 0;
+        while (child > 0 && waitpid(child, &status, 0) < 0 && errno == EINTR) {
+        }
+        if (child != 0) {
+            _exit(child < 0 ? 127 : WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status));
+        }
+    }
+}
+
+// A pid file left by a user interface that crashed, whose number now
+// belongs to another process: that process gets no signal, and the
+// upgrade goes on at once.
+Row Stranger(const char* name, std::function<pid_t(ServiceRun&)> who)
+{
+    return Named(name, who,
+                 {"[NOTE] mac/mac-service(%d): pid <pid> is not the user interface, nothing to terminate"});
+}
+
+const char kNoPid[] =
+    "[NOTE] mac/mac-service(%d): pid file '<install>/ui.pid' holds no valid pid, nothing to terminate";
+
+Row InitOfAPrivatePidNamespace()
+{
+    Row r = Stranger("InitOfAPrivatePidNamespace", [](ServiceRun&) { return 1; });
+    r.in_child = BelowNamespaceInit;
+    r.ui = false; // its pid there is not ours
+    return r;
+}
+
+// A process that is gone needs no signal.
+pid_t Gone(ServiceRun&)
+{
+    const pid_t pid = Start({"/bin/true"});
+    EXPECT_GE(Wait(pid), 0) << strerror(errno);
+    return pid;
+}
+
+const Row kStops[] = {
+    Named("GonePlain", Gone, {}),
+    Stop("GonePlusSign", [](ServiceRun& f) { return "pid=+" + std::to_string(Gone(f)) + "\n"; }, {}),
+    BadPid("NoPidFile", nullptr,
+           "[DEBUG] mac/mac-service(%d): pid file '<install>/ui.pid' does not exist, no need to terminate"),
+    BadPid("SyntaxError", "pid=\n",
+           "[NOTE] mac/mac-service(%d): Failed to read pid file '<install>/ui.pid', not exist ?"),
+    BadPid("OtherKeysOnly", "port=4711\n", kNoPid),
+    BadPid("Zero", "pid=0\n", kNoPid),
+    BadPid("MinusOne", "pid=-1\n", kNoPid),
+    BadPid("Letters", "pid=abc\n", kNoPid),
+    BadPid("Folder", "/", kNoPid),
+    BadPid("WrapsToMinusOne", "pid=4294967295\n", kNoPid), // -1 when cut to 32 bits
+    // testsupport::Run forks this process into the launcher, so it is the launcher's parent.
+    Stranger("LaunchersParent", [](ServiceRun&) { return getpid(); }),
+    Stranger("ProcessOfTheSameUser", [](ServiceRun& f) { return f.StartSleeper(false); }),
+    Stranger("ProcessOfAnotherUser", [](ServiceRun& f) { return f.StartSleeper(true); }),
+    InitOfAPrivatePidNamespace(),
+    Slow("SlowUiIgnoresSigterm", false),
+    Slow("SlowUiFileRemovedWhileRunning", true),
+};
+INSTANTIATE_TEST_SUITE_P(Stops, ServiceRun, ::testing::ValuesIn(kStops), RowName());
 
 // Decision, stop, upgrade from a tar.gz package, the aged folder and the
 // launch, over an old copy whose user interface runs and heeds SIGTERM: it
 // gets no SIGKILL, and the stop returns with the probe that finds it gone.
-TEST_F(ServiceRun, SequenceUpgradesARunningOldCopy)
+Row RunningOldCopy()
 {
-    InstallCopy("1200");
-    ASSERT_TRUE(WriteFile(app_ + "/Contents/Resources/old-only.txt", "old\n") &&
-                MakeDirs(install_ + "/app/sub"))
-        << strerror(errno);
-    vpkpack::PackOptions options;
-    options.format = vpkpack::Format::TarGz;
-    options.info_out = bundle_ + "/Contents/Resources/INFO";
-    const vpkpack::Status packed = vpkpack::Pack(ClientBundle("1201"), package_, options);
-    ASSERT_TRUE(packed.ok()) << packed.Message();
-    std::vector<EnvChange> env = Env(home_);
-    env.push_back(Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "60000")); // a bound, should the stop fail
-    const pid_t old_ui = Start({ui_}, env);
-    ASSERT_GT(old_ui, 0) << ui_ << ": " << strerror(errno);
-    ASSERT_EQ(WaitForUi(), old_ui) << "the old user interface did not come up";
-    // Reaped the moment it ends, so that a probe no longer finds it.
-    int status = -1;
-    std::thread reaper([&] { status = Wait(old_ui); });
-
-    // Not the launcher: the sequence runs without the controller and dialog.
-    const std::string driver = bundle_ + "/Contents/MacOS/sequence_driver";
-    ASSERT_TRUE(testsupport::CopyTree(SEQUENCE_DRIVER, driver) && MakeDirs(install_ + "/log"))
-        << driver << ": " << strerror(errno);
-    const testsupport::ProcessResult run = RunTraced(false, {driver, LogPath()});
-    EXPECT_TRUE(run.exited && run.exit_code == 0) << "exit " << run.exit_code << "\n" << run.err;
-    reaper.join();
-    EXPECT_TRUE(WIFEXITED(status)) << "the old user interface did not quit on SIGTERM: wait status "
-                                   << status;
-    const Strings trace = Trace();
-    const std::string kill = "kill " + std::to_string(old_ui);
-    ASSERT_GE(trace.size(), 2u) << ::testing::PrintToString(trace);
-    EXPECT_EQ(trace.front(), kill + " 15 ok");
-    EXPECT_EQ(trace.back(), kill + " 0 ESRCH") << "it returns after the probe that finds it gone";
-    EXPECT_LT(trace.size(), 11u) << "fewer than five probes, and no SIGKILL";
-    EXPECT_EQ(Lines(),
-              (Strings{"[INFO] calderix-service(%d): target_version = (2, 5, 1201, 3)",
-                       "[INFO] calderix-service(%d): source_version = (2, 5, 1200, 3)",
-                       "[DEBUG] mac/mac-service(%d): Source version: ('1200', '3')",
-                       "[DEBUG] mac/mac-service(%d): Target version: ('1201', '3')", Decided("1200", "1201"),
-                       "[DEBUG] mac/mac-service(%d): local appdata exist", kExtract, kReady,
-                       "[INFO] calderix-service(%d): removing aged app folder <install>/app"}));
-    EXPECT_EQ(reliability::Snapshot(app_), reliability::Snapshot(ClientBundle("1201")));
-    EXPECT_FALSE(Exists(install_ + "/app")) << "the aged folder stays";
-    EXPECT_TRUE(Backups().empty()) << "a backup stayed: " << Backups().front();
-    ExpectUiStartedOnce();
+    Row r{.name = "UpgradesARunningOldCopy", .levels = kAll, .kill_at = "trace"};
+    r.setup = [](ServiceRun& f) {
+        f.InstallCopy("1200");
+        ASSERT_TRUE(WriteFile(f.app_ + "/Contents/Resources/old-only.txt", "old\n") &&
+                    MakeDirs(f.install_ + "/app/sub"));
+        vpkpack::PackOptions options;
+        options.format = vpkpack::Format::TarGz;
+        options.info_out = f.bundle_ + "/Contents/Resources/INFO";
+        const vpkpack::Status packed = vpkpack::Pack(f.ClientBundle("1201"), f.package_, options);
+        ASSERT_TRUE(packed.ok()) << packed.Message();
+        std::vector<EnvChange> env = f.Env(f.home_);
+        env.push_back(Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "60000")); // a bound, should the stop fail
+        f.pid_ = Start({f.ui_}, env);
+        ASSERT_EQ(f.WaitForUi(), f.pid_) << "the old user interface did not come up";
+        // Reaped the moment it ends, so that a probe no longer finds it.
+        f.reaper_ = std::thread([&f] { f.status_ = Wait(f.pid_); });
+    };
+    r.log = {"[INFO] calderix-service(%d): target_version = (2, 5, 1201, 3)",
+             "[INFO] calderix-service(%d): source_version = (2, 5, 1200, 3)",
+             "[DEBUG] mac/mac-service(%d): Source version: ('1200', '3')",
+             "[DEBUG] mac/mac-service(%d): Target version: ('1201', '3')",
+             Decided("1200", "1201"),
+             "[DEBUG] mac/mac-service(%d): local appdata exist",
+             kExtract,
+             kReady,
+             "[INFO] calderix-service(%d): removing aged app folder <install>/app",
+             "!" + kFailed};
+    r.check = [](ServiceRun& f, const ProcessResult&) {
+        f.reaper_.join();
+        EXPECT_TRUE(WIFEXITED(f.status_)) << "the old user interface did not quit on SIGTERM: " << f.status_;
+        const Strings trace = f.Trace();
+        ASSERT_GE(trace.size(), 2u) << ::testing::PrintToString(trace);
+        EXPECT_EQ(trace.front(), "kill <pid> 15 ok");
+        EXPECT_EQ(trace.back(), "kill <pid> 0 ESRCH") << "it returns after the probe that finds it gone";
+        EXPECT_LT(trace.size(), 11u) << "fewer than five probes, and no SIGKILL";
+        EXPECT_EQ(Snapshot(f.app_), Snapshot(f.ClientBundle("1201")));
+        EXPECT_FALSE(Exists(f.install_ + "/app")) << "the aged folder stays";
+        EXPECT_EQ(f.Backups(), Strings{}) << "a backup stayed";
+    };
+    return r;
 }
-
-// The pid as written before the number: nothing, or a plus sign.
-class StopGone : public ServiceRun, public ::testing::WithParamInterface<const char*> {};
-
-TEST_P(StopGone, DoesNotWaitForAProcessThatIsGone)
-{
-    InstallCopy("1200");
-    PackClient("1201");
-    const pid_t gone = Start({"/bin/true"});
-    ASSERT_GT(gone, 0) << strerror(errno);
-    ASSERT_GE(Wait(gone), 0);
-    ASSERT_TRUE(
-        WriteFile(install_ + "/ui.pid", "pid=" + std::string(GetParam()) + std::to_string(gone) + "\n"));
-
-    ExpectCleanExit(RunTraced());
-    EXPECT_EQ(Trace(), Strings{}) << "a process that is gone needs no signal";
-    EXPECT_EQ(StopLines(), Strings{});
-}
-
-INSTANTIATE_TEST_SUITE_P(PidTexts, StopGone, ::testing::Values("", "+"),
-                         [](const ::testing::TestParamInfo<const char*>& row) {
-                             return *row.param == '+' ? std::string("PlusSign") : std::string("Plain");
-                         });
-
-struct BadPidCase {
-    const char* name;
-    const char* content; // of ui.pid; null: no pid file; "/": a folder in its place
-    const char* line;
-};
-
-class StopBadPid : public ServiceRun, public ::testing::WithParamInterface<BadPidCase> {};
-
-// The launcher and a watcher run as nobody in the test's process group: a
-// signal to pid 0 or -1 would reach the watcher (or the launcher itself).
-TEST_P(StopBadPid, SendsNoSignalAtAll)
-{
-    const BadPidCase& c = GetParam();
-    InstallCopy("1200");
-    PackClient("1201");
-    if (c.content != nullptr) {
-        ASSERT_TRUE(std::string(c.content) == "/" ? MakeDirs(install_ + "/ui.pid")
-                                                  : WriteFile(install_ + "/ui.pid", c.content));
-    }
-    HandToNobody();
-    const pid_t watcher = StartSleeper(true);
-    ASSERT_GT(watcher, 0);
-
-    ExpectCleanExit(RunTraced(true));
-    EXPECT_EQ(Trace(), Strings{});
-    EXPECT_EQ(StopLines(), Strings{c.line});
-    // An earlier fatal signal would have ended it first, and keeps its own status.
-    ASSERT_EQ(kill(watcher, SIGKILL), 0) << strerror(errno);
-    const int status = Wait(watcher);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL)
-        << "a signal reached the watcher: wait status " << status;
-}
-
-const char kUnreadable[] =
-    "[NOTE] mac/mac-service(%d): Failed to read pid file '<install>/ui.pid', not exist ?";
-const char kNoPid[] =
-    "[NOTE] mac/mac-service(%d): pid file '<install>/ui.pid' holds no valid pid, nothing to terminate";
-
-INSTANTIATE_TEST_SUITE_P(
-    PidFiles, StopBadPid,
-    ::testing::Values(
-        BadPidCase{
-            "NoPidFile", nullptr,
-            "[DEBUG] mac/mac-service(%d): pid file '<install>/ui.pid' does not exist, no need to terminate"},
-        BadPidCase{"SyntaxError", "pid=\n", kUnreadable}, BadPidCase{"OtherKeysOnly", "port=4711\n", kNoPid},
-        BadPidCase{"Zero", "pid=0\n", kNoPid}, BadPidCase{"MinusOne", "pid=-1\n", kNoPid},
-        BadPidCase{"Letters", "pid=abc\n", kNoPid}, BadPidCase{"Folder", "/", kNoPid},
-        // Cut to 32 bits this would be -1.
-        BadPidCase{"WrapsToMinusOne", "pid=4294967295\n", kNoPid}),
-    servicetest::RowName<BadPidCase>);
-
-// ------------------------------------------------------------------ pid files naming a stranger
-
-enum class Stranger { Parent, SameUser, OtherUser, NamespaceInit };
-
-struct StrangerCase {
-    const char* name;
-    Stranger who;
-};
-
-class StopStranger : public ServiceRun, public ::testing::WithParamInterface<StrangerCase> {};
-
-// A pid file left by a user interface that crashed, whose number now
-// belongs to another process: that process gets no signal at all, and the
-// upgrade goes on at once.
-TEST_P(StopStranger, LeavesItAlone)
-{
-    const StrangerCase& c = GetParam();
-    if (c.who == Stranger::OtherUser && geteuid() != 0) {
-        GTEST_SKIP() << "only root can start a process of another user";
-    }
-    InstallCopy("1200");
-    PackClient("1201");
-    // testsupport::Run forks this process into the launcher, so this
-    // process is the launcher's parent.
-    const pid_t pid = c.who == Stranger::Parent          ? getpid()
-                      : c.who == Stranger::NamespaceInit ? 1
-                                                         : StartSleeper(c.who == Stranger::OtherUser);
-    ASSERT_GT(pid, 0);
-    ASSERT_TRUE(WriteFile(install_ + "/ui.pid", "pid=" + std::to_string(pid) + "\n"));
-
-    ExpectCleanExit(RunTraced(false, {}, c.who == Stranger::NamespaceInit ? BelowNamespaceInit : nullptr));
-    EXPECT_EQ(Trace(), Strings{});
-    EXPECT_EQ(StopLines(), Strings{"[NOTE] mac/mac-service(%d): pid " + std::to_string(pid) +
-                                   " is not the user interface, nothing to terminate"});
-    if (c.who == Stranger::SameUser || c.who == Stranger::OtherUser) {
-        EXPECT_EQ(kill(pid, 0), 0) << "the stranger is gone";
-    }
-    EXPECT_EQ(reliability::Snapshot(app_), reliability::Snapshot(ClientBundle("1201")));
-}
-
-INSTANTIATE_TEST_SUITE_P(Strangers, StopStranger,
-                         ::testing::Values(StrangerCase{"LaunchersParent", Stranger::Parent},
-                                           StrangerCase{"ProcessOfTheSameUser", Stranger::SameUser},
-                                           StrangerCase{"ProcessOfAnotherUser", Stranger::OtherUser},
-                                           StrangerCase{"InitOfAPrivatePidNamespace",
-                                                        Stranger::NamespaceInit}),
-                         servicetest::RowName<StrangerCase>);
+INSTANTIATE_TEST_SUITE_P(Sequence, ServiceRun, ::testing::Values(RunningOldCopy()), RowName());
 
 } // namespace
