@@ -162,8 +162,12 @@ TEST_P(ControllerRun, RunsTheServiceAndRelaysItsReportsInOrder)
     QProgressBar* bar = dialog->findChild<QProgressBar*>();
     ASSERT_NE(bar, nullptr);
     DialogLog log;
-    QObject::connect(bar, &QProgressBar::valueChanged, [&log](int value) {
+    // The text shown when the bar fills: never the ready text, which may
+    // only follow a full bar.
+    QString text_at_full;
+    QObject::connect(bar, &QProgressBar::valueChanged, [&log, &text_at_full, dialog](int value) {
         log.values.push_back(value);
+        text_at_full = value == 100 ? dialog->labelText() : text_at_full;
         log.Seen();
     });
     dialog->installEventFilter(&log);
@@ -177,6 +181,7 @@ TEST_P(ControllerRun, RunsTheServiceAndRelaysItsReportsInOrder)
     EXPECT_THAT(log.events, ElementsAreArray(c.showing));
     EXPECT_FALSE(log.off_main) << "the dialog was driven off the main thread";
     EXPECT_FALSE(dialog->isVisible());
+    EXPECT_NE(text_at_full, StrTable::LoadStr(StrTable::kStrReady)) << "the ready text came before a full bar";
     EXPECT_EQ(dialog->labelText(),
               c.label_id < 0 ? QStringLiteral("unpacking") : StrTable::LoadStr(c.label_id));
     dialog->removeEventFilter(&log);
@@ -191,11 +196,11 @@ INSTANTIATE_TEST_SUITE_P(
         RunCase{"UpgradeSucceeds",
                 true,
                 0,
-                7,
+                6,
                 kUpgradeCalls,
                 {14, 28, 42, 57, 71, 85, 100},
                 {"show", "hide"},
-                510},
+                StrTable::kStrReady},
         RunCase{"UpgradeFails", true, -1, 3, kUpgradeCalls, {14, 28, 42, 100}, {"show", "hide"}, -1},
         RunCase{
             "NothingToUpgrade", false, 0, 0, {"PreUpgrade", "IsNeedUpgrade", "PostUpgrade"}, {100}, {}, 461}),
