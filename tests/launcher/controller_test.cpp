@@ -181,7 +181,8 @@ TEST_P(ControllerRun, RunsTheServiceAndRelaysItsReportsInOrder)
     EXPECT_THAT(log.events, ElementsAreArray(c.showing));
     EXPECT_FALSE(log.off_main) << "the dialog was driven off the main thread";
     EXPECT_FALSE(dialog->isVisible());
-    EXPECT_NE(text_at_full, StrTable::LoadStr(StrTable::kStrReady)) << "the ready text came before a full bar";
+    EXPECT_NE(text_at_full, StrTable::LoadStr(StrTable::kStrReady))
+        << "the ready text came before a full bar";
     EXPECT_EQ(dialog->labelText(),
               c.label_id < 0 ? QStringLiteral("unpacking") : StrTable::LoadStr(c.label_id));
     dialog->removeEventFilter(&log);
