@@ -1,6 +1,11 @@
 // The Linux canonical path: stored spellings, and listings only where needed.
+#include <csignal>
+#include <sys/stat.h>
+
 #include "canonical_path_linux.h"
 #include "file_test_support.h"
+#include "process_info.h"
+#include "regular_file.h"
 
 namespace {
 
@@ -87,5 +92,37 @@ const PathCase kPaths[] = {
     {"FoldedFinalLink", "L20", FinalLink::Keep, kFold, 0, "l20"},
 };
 INSTANTIATE_TEST_SUITE_P(Paths, ResolveTest, ::testing::ValuesIn(kPaths), RowName());
+
+// A small file is read whole up to 1 MiB and refused one byte beyond, data
+// untouched; a FIFO is refused without waiting for a writer.
+TEST_F(FileTest, SmallFilesUpToOneMebibyteAndNothingButRegularFiles)
+{
+    const size_t mib = 1 << 20;
+    ASSERT_TRUE(WriteFile(P("full"), std::string(mib, 'a')) &&
+                WriteFile(P("over"), std::string(mib + 1, 'a')) && mkfifo(P("fifo").c_str(), 0600) == 0)
+        << strerror(errno);
+    std::string data = "untouched";
+    EXPECT_EQ(platform::ReadRegularFile(P("over"), platform::kSmallFileLimit, data), EFBIG);
+    EXPECT_EQ(platform::ReadRegularFile(P("fifo"), platform::kSmallFileLimit, data), EINVAL);
+    EXPECT_EQ(data, "untouched") << "a refused file changed the data";
+    EXPECT_EQ(platform::ReadRegularFile(P("full"), platform::kSmallFileLimit, data), 0);
+    EXPECT_EQ(data.size(), mib);
+}
+
+// A process keeps the path its executable had when that file is removed.
+TEST_F(FileTest, ProcessOfARemovedExecutableKeepsItsPath)
+{
+    ASSERT_TRUE(CopyTree("/bin/sleep", P("sleeper"))) << strerror(errno);
+    const pid_t pid = Start({P("sleeper"), "60"});
+    std::string exe;
+    for (int i = 0; i < 500 && (platform::UserProcessExecutable(pid, exe) != 0 || exe != P("sleeper")); ++i) {
+        usleep(10000);
+    }
+    ASSERT_EQ(remove(P("sleeper").c_str()), 0) << strerror(errno);
+    EXPECT_EQ(platform::UserProcessExecutable(pid, exe), 0);
+    EXPECT_EQ(exe, P("sleeper"));
+    kill(pid, SIGKILL);
+    Wait(pid);
+}
 
 } // namespace
