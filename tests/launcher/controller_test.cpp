@@ -175,21 +175,15 @@ TEST_P(ControllerRun, RunsTheServiceAndRelaysItsReportsInOrder)
 }
 
 const Strings kUpgradeCalls{"PreUpgrade", "IsNeedUpgrade", "HandlePackageUpgrade", "PostUpgrade"};
-INSTANTIATE_TEST_SUITE_P(
-    Outcomes, ControllerRun,
-    ::testing::Values(
-        RunCase{"UpgradeSucceeds",
-                true,
-                0,
-                6,
-                kUpgradeCalls,
-                {14, 28, 42, 57, 71, 85, 100},
-                {"show", "hide"},
-                StrTable::kStrReady},
-        RunCase{"UpgradeFails", true, -1, 3, kUpgradeCalls, {14, 28, 42, 100}, {"show", "hide"}, -1},
-        RunCase{
-            "NothingToUpgrade", false, 0, 0, {"PreUpgrade", "IsNeedUpgrade", "PostUpgrade"}, {100}, {}, 461}),
+const Strings kShown{"show", "hide"};
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Outcomes, ControllerRun, ::testing::Values(
+    RunCase{"UpgradeSucceeds", true, 0, 6, kUpgradeCalls, {14, 28, 42, 57, 71, 85, 100}, kShown, StrTable::kStrReady},
+    RunCase{"UpgradeFails", true, -1, 3, kUpgradeCalls, {14, 28, 42, 100}, kShown, -1},
+    RunCase{"NothingToUpgrade", false, 0, 0, {"PreUpgrade", "IsNeedUpgrade", "PostUpgrade"}, {100}, {},
+            StrTable::kStrPreparing}),
     RowName());
+// clang-format on
 
 } // namespace
 

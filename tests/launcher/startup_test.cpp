@@ -33,16 +33,20 @@ using Row = Scenario<Startup>;
 
 // HOME below a regular file cannot hold the log folder, even for root: the
 // logger stays on standard error and start-up carries on; nothing reads a
-// level file, so no debug line gets through.
+// level file, so no debug line gets through. The catalogue still follows the
+// user's locale and comes from the compiled-in resources, as the trace on
+// standard error shows.
 const Row kBlockedHome = {
-    .name = "HomeThatCannotHoldTheLogFolderStillStarts",
+    .name = "HomeThatCannotHoldTheLogFolderStillStartsInTheUsersLanguage",
     .setup = [](Startup& f) { ASSERT_TRUE(WriteFile(f.root_ + "/not-a-folder", "x")) << strerror(errno); },
-    .env = {Set("HOME", "<root>/not-a-folder/home")},
+    .env = {Set("HOME", "<root>/not-a-folder/home"), Set("LANG", "pt_BR.UTF-8"), Unset("LC_ALL"),
+            Unset("LANGUAGE")},
     .ui = false,
     .check =
         [](Startup& f, const ProcessResult& r) {
             EXPECT_EQ(ReadFile(f.root_ + "/not-a-folder"), "x") << "the regular file in the way was changed";
-            EXPECT_NE(r.err.find("): Failed to launch Calderix UI\n"), std::string::npos) << r.err;
+            for (const char* text : {"): Failed to launch Calderix UI\n", "qstrLangFileName)=[:/ptb.qm]"})
+                EXPECT_NE(r.err.find(text), std::string::npos) << "missing " << text << " in:\n" << r.err;
             EXPECT_EQ(r.err.find("[DEBUG]"), std::string::npos) << r.err;
         },
 };
@@ -77,19 +81,6 @@ Row PasswordHome(const char* name, const EnvChange& home)
     return r;
 }
 
-// The catalogue follows the user's locale and comes from the compiled-in
-// resources; the choice is traced on standard error.
-Row Language(const char* name, const char* lang, const std::string& code)
-{
-    Row r{.name = name, .env = {Set("LANG", lang), Unset("LC_ALL"), Unset("LANGUAGE")}, .ui = false};
-    r.check = [code](Startup&, const ProcessResult& result) {
-        const std::string loaded = "qPrintable(qstrLangFileName)=[:/" + code + ".qm]";
-        EXPECT_NE(result.err.find(loaded), std::string::npos) << "missing " << loaded << " in:\n"
-                                                              << result.err;
-    };
-    return r;
-}
-
 // While this test holds the launcher's instance, the launcher steps aside
 // at once (saying so at debug level only); once let go, it runs again.
 const std::string kAlready = "[DEBUG] main(%d): app has already launched, return";
@@ -109,9 +100,6 @@ const Row kRows[] = {
     PasswordHome("HomeUnset", Unset("HOME")),
     PasswordHome("HomeEmpty", Set("HOME", "")),
     PasswordHome("HomeRelative", Set("HOME", "relative/home")),
-    Language("German", "de_DE.UTF-8", "deu"),
-    Language("BrazilianPortuguese", "pt_BR.UTF-8", "ptb"),
-    Language("Posix", "C", "enu"),
     SecondStart("SecondStartDebugEnabled", "launcher_debug=7\n", true, true),
     SecondStart("SecondStartInfoOnly", "launcher_debug=6\n", true, false),
     SecondStart("SecondStartOtherComponent", "service_debug=7\n", true, false),

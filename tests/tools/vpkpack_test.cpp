@@ -232,7 +232,7 @@ INSTANTIATE_TEST_SUITE_P(Bundles, BundleCheckTest, ::testing::ValuesIn(std::vect
 }), testsupport::RowName());
 // clang-format on
 
-class PackFormatTest : public PackTest, public ::testing::WithParamInterface<vpkpack::Format> {};
+class PackFormatTest : public PackTest, public ::testing::WithParamInterface<const char*> {};
 
 // The package holds the bundle as it is, in tree order with the UI and the
 // version file last, and nothing of the packing machine or user; another
@@ -240,7 +240,9 @@ class PackFormatTest : public PackTest, public ::testing::WithParamInterface<vpk
 TEST_P(PackFormatTest, RoundTripsReproduciblyAndPassesCheck)
 {
     vpkpack::PackOptions options;
-    options.format = GetParam();
+    std::string name = GetParam();
+    std::replace(name.begin(), name.end(), '_', '.');
+    ASSERT_TRUE(vpkpack::ParseFormat(name, &options.format)) << name;
     options.mtime = 1700000000;
     vpkpack::PackageSummary summary, checked;
     const Status packed = vpkpack::Pack(bundle_, out_, options, &summary);
@@ -280,18 +282,12 @@ TEST_P(PackFormatTest, RoundTripsReproduciblyAndPassesCheck)
     ASSERT_TRUE(vpkpack::Pack(copy, second, options).ok());
     const std::string first_bytes = ReadFile(out_);
     EXPECT_TRUE(first_bytes == ReadFile(second)) << out_ << " and " << second << " differ";
-    EXPECT_TRUE(GetParam() != vpkpack::Format::TarGz || first_bytes.substr(4, 4) == std::string(4, '\0'))
+    EXPECT_TRUE(options.format != vpkpack::Format::TarGz || first_bytes.substr(4, 4) == std::string(4, '\0'))
         << "the gzip header holds the packing time";
 }
 
-INSTANTIATE_TEST_SUITE_P(Formats, PackFormatTest,
-                         ::testing::Values(vpkpack::Format::TarZst, vpkpack::Format::Zip,
-                                           vpkpack::Format::TarGz, vpkpack::Format::TarXz),
-                         [](const auto& info) {
-                             std::string name = vpkpack::FormatName(info.param);
-                             std::replace(name.begin(), name.end(), '.', '_');
-                             return name;
-                         });
+INSTANTIATE_TEST_SUITE_P(Formats, PackFormatTest, ::testing::Values("tar_zst", "zip", "tar_gz", "tar_xz"),
+                         testsupport::RowName());
 
 // Several of zstd's jobs' worth of data give one package whatever the
 // threads; the level is the one asked for.
@@ -389,7 +385,6 @@ INSTANTIATE_TEST_SUITE_P(Cli, CommandLineTest, ::testing::ValuesIn(std::vector<C
     {"level_out_of_range", {"--level=23", "{B}", "{O}"}, 2, "from 1 to 22: '23'"},
     {"check_of_no_package", {"--check", "{B}/Contents/Resources/INFO"}, 1, "not a package (tar.zst, zip, tar.gz"},
     {"print_build", {"--print-build", "{B}/Contents/Resources/INFO"}, 0, "2147483647\n"},
-    {"version", {"--version"}, 0, "vpkpack 1.0.0 (libarchive "},
 }), testsupport::RowName());
 // clang-format on
 
