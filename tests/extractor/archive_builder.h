@@ -12,7 +12,8 @@
 enum class ArchiveFormat { Tar, TarGz, Zip };
 
 // One entry; kind 'f' file, 'd' folder, 'l' symbolic link or 'h' hard link
-// (both to link). {"a/", "", 'd', 0755} is a folder.
+// (both to link), 'p' FIFO or 'c' character device (as /dev/zero).
+// {"a/", "", 'd', 0755} is a folder.
 struct ArchiveItem {
     std::string path;
     std::string data{};

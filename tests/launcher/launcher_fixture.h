@@ -37,36 +37,6 @@ namespace launchertest {
 
 using Strings = std::vector<std::string>;
 
-// Changes to this process's environment, each undone (value or absence)
-// when the object goes away, so that tests sharing a process stay
-// independent. Set and Unset return false, with errno set, on failure.
-class ScopedEnv {
-public:
-    ScopedEnv() = default;
-    ScopedEnv(const ScopedEnv&) = delete;
-    ScopedEnv& operator=(const ScopedEnv&) = delete;
-    ~ScopedEnv()
-    {
-        for (auto it = saved_.rbegin(); it != saved_.rend(); ++it) {
-            it->second ? setenv(it->first.c_str(), it->second->c_str(), 1) : unsetenv(it->first.c_str());
-        }
-    }
-    bool Set(const std::string& name, const std::string& value)
-    {
-        return Save(name) && setenv(name.c_str(), value.c_str(), 1) == 0;
-    }
-    bool Unset(const std::string& name) { return Save(name) && unsetenv(name.c_str()) == 0; }
-
-private:
-    bool Save(const std::string& name)
-    {
-        const char* value = getenv(name.c_str());
-        saved_.emplace_back(name, value != nullptr ? std::optional<std::string>(value) : std::nullopt);
-        return true;
-    }
-    std::vector<std::pair<std::string, std::optional<std::string>>> saved_;
-};
-
 // Processes (zombies excluded) whose executable lies below folder, with
 // that executable's path as the kernel reports it (a replaced file ends in
 // " (deleted)").
@@ -218,8 +188,37 @@ public:
     // launcher started by this user would, until the test ends.
     void UseFixtureEnvironment()
     {
-        ASSERT_TRUE(env_.Set("TMPDIR", tmp_) && env_.Set("HOME", home_) && env_.Unset("XDG_RUNTIME_DIR"))
+        for (const char* name : {"TMPDIR", "HOME", "XDG_RUNTIME_DIR"}) {
+            const char* value = getenv(name);
+            saved_env_.emplace_back(name,
+                                    value != nullptr ? std::optional<std::string>(value) : std::nullopt);
+        }
+        ASSERT_TRUE(setenv("TMPDIR", tmp_.c_str(), 1) == 0 && setenv("HOME", home_.c_str(), 1) == 0 &&
+                    unsetenv("XDG_RUNTIME_DIR") == 0)
             << strerror(errno);
+    }
+
+    ~LauncherFixture() override
+    {
+        for (auto it = saved_env_.rbegin(); it != saved_env_.rend(); ++it) {
+            it->second ? setenv(it->first.c_str(), it->second->c_str(), 1) : unsetenv(it->first.c_str());
+        }
+    }
+
+    // A run's environment with the kill shim preloaded, acting at at
+    // ("trace": tracing into root_/trace). The shim comes ahead of the sanitizer's runtime, which is harmless
+    // here: it only forwards calls.
+    std::vector<testsupport::EnvChange> ShimEnv(const std::string& at) const
+    {
+        std::vector<testsupport::EnvChange> env = Env(home_);
+        const char* asan = getenv("ASAN_OPTIONS");
+        env.insert(env.end(),
+                   {testsupport::Set("ASAN_OPTIONS",
+                                     std::string(asan != nullptr ? asan : "") + ":verify_asan_link_order=0"),
+                    testsupport::Set("LD_PRELOAD", KILL_SHIM),
+                    testsupport::Set("CALDERIX_KILL_AT", at == "trace" ? "trace:" + root_ + "/trace" : at),
+                    testsupport::Set("CALDERIX_KILL_ROOT", install_)});
+        return env;
     }
 
     testsupport::ProcessResult RunLauncher() const { return testsupport::Run({launcher_}, Env(home_)); }
@@ -244,19 +243,7 @@ public:
             s.setup(self);
         }
         ASSERT_FALSE(HasFailure()) << "the row's setup failed";
-        std::vector<testsupport::EnvChange> env = Env(home_);
-        if (!s.kill_at.empty()) {
-            const char* asan = getenv("ASAN_OPTIONS");
-            // The shim comes ahead of the sanitizer's runtime, which is
-            // harmless here: it only forwards calls.
-            env.insert(env.end(),
-                       {testsupport::Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") +
-                                                             ":verify_asan_link_order=0"),
-                        testsupport::Set("LD_PRELOAD", KILL_SHIM),
-                        testsupport::Set("CALDERIX_KILL_AT",
-                                         s.kill_at == "trace" ? "trace:" + root_ + "/trace" : s.kill_at),
-                        testsupport::Set("CALDERIX_KILL_ROOT", install_)});
-        }
+        std::vector<testsupport::EnvChange> env = s.kill_at.empty() ? Env(home_) : ShimEnv(s.kill_at);
         for (testsupport::EnvChange change : s.env) {
             change.value =
                 change.value.rfind("<root>/", 0) == 0 ? root_ + change.value.substr(6) : change.value;
@@ -288,10 +275,7 @@ public:
             from = found == log.end() ? from : found + 1;
         }
         if (s.ui) {
-            const pid_t ui = WaitForUi(old_ui);
-            EXPECT_GT(ui, 0) << "no user interface came up";
-            EXPECT_EQ(UiProcesses(), std::vector<pid_t>{ui})
-                << "the user interface was not started exactly once";
+            ExpectUiStartedOnce(old_ui);
         }
         if (s.check) {
             s.check(self, r);
@@ -315,6 +299,22 @@ public:
             }
         }
         return -1;
+    }
+
+    // A user interface other than not_pid came up, once.
+    void ExpectUiStartedOnce(pid_t not_pid = 0) const
+    {
+        const pid_t ui = WaitForUi(not_pid);
+        ASSERT_GT(ui, 0) << "no user interface came up";
+        EXPECT_EQ(UiProcesses(), std::vector<pid_t>{ui}) << "the user interface was not started exactly once";
+    }
+
+    // How many of the log's lines, as Log() gives them, start with start.
+    long LogCount(const std::string& start) const
+    {
+        const launchertest::Strings lines = Log();
+        return std::count_if(lines.begin(), lines.end(),
+                             [&](const std::string& l) { return l.rfind(start, 0) == 0; });
     }
 
     // The processes that run the user's installed user interface.
@@ -355,5 +355,5 @@ public:
     std::string app_;     // the user's bundle
     std::string ui_;      // its user-interface executable
     std::string package_; // the launcher bundle's package
-    launchertest::ScopedEnv env_;
+    std::vector<std::pair<std::string, std::optional<std::string>>> saved_env_; // as before the test
 };

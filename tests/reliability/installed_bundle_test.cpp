@@ -37,7 +37,7 @@ TEST_F(InstalledBundle, MapsWhatItCarriesFromItselfAndInstallsTheClient)
 {
     // Stopped at its first entry of the upgrade, it has loaded its libraries
     // and its platform plug-in.
-    const pid_t pid = StartLauncher("run", ShimEnv(KILL_SHIM, "stop:1"));
+    const pid_t pid = StartLauncher("run", ShimEnv("stop:1"));
     int status = 0;
     ASSERT_EQ(waitpid(pid, &status, WUNTRACED), pid) << strerror(errno);
     const std::vector<std::string> maps = Lines(ReadFile("/proc/" + std::to_string(pid) + "/maps"));

@@ -18,12 +18,11 @@
 //                       remove:N        right after the N-th removal below
 //                                       (or of) Calderix.app_tmp
 //                       trace:FILE      kills nothing; appends a line to FILE
-//                                       for every write, rename, remove,
-//                                       unlink, rmdir, fsync, fdatasync and
-//                                       syncfs on a path below (or of) the
-//                                       installation folder: "op path", and
-//                                       "rename from to"; and for every kill
-//                                       and sleep: "kill PID SIG ok|ESRCH|error",
+//                                       for every write, remove, unlink,
+//                                       rmdir and syncfs on a path below (or
+//                                       of) the installation folder: "op
+//                                       path"; and for every kill and sleep:
+//                                       "kill PID SIG ok|ESRCH|error",
 //                                       "sleep SECONDS"
 //
 // The variables are dropped from the environment at load time, so that the
@@ -122,10 +121,10 @@ __attribute__((format(printf, 1, 2))) static void Put(const char* fmt, ...)
 
 // r, the result of a call on path (or below the installation folder),
 // traced as op when it succeeded.
-static int Traced(int r, const char* op, const char* path, const char* other)
+static int Traced(int r, const char* op, const char* path)
 {
     if (r == 0 && mode == kTrace && Under(path, root, 1)) {
-        Put("%s %s%s%s\n", op, path, other != NULL ? " " : "", other != NULL ? other : "");
+        Put("%s %s\n", op, path);
     }
     return r;
 }
@@ -139,7 +138,7 @@ static int TracedFd(int r, const char* op, int fd)
     const ssize_t n = mode == kTrace && r == 0 ? readlink(link, path, sizeof path - 1) : -1;
     if (n > 0) {
         path[n] = '\0';
-        Traced(0, op, path, NULL);
+        Traced(0, op, path);
     }
     return r;
 }
@@ -182,19 +181,6 @@ static mode_t ModeArgument(int flags, va_list ap)
     return (flags & (O_CREAT | O_TMPFILE)) != 0 ? (mode_t)va_arg(ap, int) : 0;
 }
 
-int open(const char* path, int flags, ...)
-{
-    REAL(open)
-    va_list ap;
-    va_start(ap, flags);
-    const mode_t m = ModeArgument(flags, ap);
-    va_end(ap);
-    const int r = real_open(path, flags, m);
-    return (flags & O_CREAT) != 0 ? Created(r, path) : r;
-}
-
-int open64(const char* path, int flags, ...) __attribute__((alias("open")));
-
 int openat(int dirfd, const char* path, int flags, ...)
 {
     REAL(openat)
@@ -206,6 +192,18 @@ int openat(int dirfd, const char* path, int flags, ...)
     return (flags & O_CREAT) != 0 ? Created(r, path) : r;
 }
 
+// open as openat, which is what the C library does too.
+int open(const char* path, int flags, ...)
+{
+    va_list ap;
+    va_start(ap, flags);
+    const mode_t m = ModeArgument(flags, ap);
+    va_end(ap);
+    return openat(AT_FDCWD, path, flags, m);
+}
+
+int open64(const char* path, int flags, ...) __attribute__((alias("open")));
+
 int rename(const char* from, const char* to)
 {
     REAL(rename)
@@ -213,7 +211,7 @@ int rename(const char* from, const char* to)
     if (backing_up && mode == kBackupBefore) {
         Die();
     }
-    const int r = Traced(real_rename(from, to), "rename", from, to);
+    const int r = real_rename(from, to);
     if (backing_up && r == 0 && mode == kBackupAfter) {
         Die();
     }
@@ -223,7 +221,7 @@ int rename(const char* from, const char* to)
 int remove(const char* path)
 {
     REAL(remove)
-    const int r = Traced(real_remove(path), "remove", path, NULL);
+    const int r = Traced(real_remove(path), "remove", path);
     if (mode == kRemove && r == 0 && Under(path, backup, 1) &&
         __atomic_add_fetch(&seen, 1, __ATOMIC_SEQ_CST) == target) {
         Die();
@@ -242,33 +240,27 @@ ssize_t write(int fd, const void* data, size_t size)
 int unlink(const char* path)
 {
     REAL(unlink)
-    return Traced(real_unlink(path), "unlink", path, NULL);
+    return Traced(real_unlink(path), "unlink", path);
 }
 
 int rmdir(const char* path)
 {
     REAL(rmdir)
-    return Traced(real_rmdir(path), "rmdir", path, NULL);
+    return Traced(real_rmdir(path), "rmdir", path);
 }
 
 // Traced only for absolute paths, which is how the upgrade names them.
 int unlinkat(int dirfd, const char* path, int flags)
 {
     REAL(unlinkat)
-    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path,
-                  NULL);
+    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path);
 }
 
-// fsync, fdatasync and syncfs, traced.
-#define TRACED_FD(name)                                                                                      \
-    int name(int fd)                                                                                         \
-    {                                                                                                        \
-        REAL(name)                                                                                           \
-        return TracedFd(real_##name(fd), #name, fd);                                                         \
-    }
-TRACED_FD(fsync)
-TRACED_FD(fdatasync)
-TRACED_FD(syncfs)
+int syncfs(int fd)
+{
+    REAL(syncfs)
+    return TracedFd(real_syncfs(fd), "syncfs", fd);
+}
 
 int kill(pid_t pid, int sig)
 {

@@ -38,7 +38,7 @@ TEST_P(KillSweep, NextStartRepairsTheInstallation)
         at += ":" +
               std::to_string(at == "create" ? std::max(1, total * row.eighths / 8 - row.minus) : row.eighths);
     }
-    const ProcessResult killed = testsupport::Run({launcher_}, ShimEnv(KILL_SHIM, at));
+    const ProcessResult killed = testsupport::Run({launcher_}, ShimEnv(at));
     ASSERT_EQ(killed.term_signal, SIGKILL) << "the launcher never reached the kill point " << at << "\n"
                                            << killed.err;
     const bool complete = reliability::Snapshot(app_) == package;
@@ -82,7 +82,7 @@ TEST_F(Interrupted, SyncsTheNewCopyBeforeRemovingTheBackup)
 {
     InstallCopy("1200");
     PackClient("1201", kFolders, kFilesPerFolder);
-    ExpectCleanExit(testsupport::Run({launcher_}, ShimEnv(KILL_SHIM, "trace:" + root_ + "/trace")));
+    ExpectCleanExit(testsupport::Run({launcher_}, ShimEnv("trace")));
     const auto below = [](const std::string& path, const std::string& folder) {
         return path == folder || path.rfind(folder + "/", 0) == 0;
     };
@@ -111,7 +111,7 @@ TEST_F(Interrupted, OneOfTwentyUpgradesAndTheOthersStepAside)
     SetLevels("launcher_debug=7\nservice_debug=6\n");
     InstallCopy("1200");
     const int total = PackClient("1201", kFolders, kFilesPerFolder);
-    const pid_t first = StartLauncher("first", ShimEnv(KILL_SHIM, "stop:" + std::to_string(total / 2)));
+    const pid_t first = StartLauncher("first", ShimEnv("stop:" + std::to_string(total / 2)));
     int status = 0;
     ASSERT_EQ(waitpid(first, &status, WUNTRACED), first) << strerror(errno);
     ASSERT_TRUE(WIFSTOPPED(status)) << "the first launcher ended before it was halfway\n"

@@ -7,6 +7,8 @@
 #include <csignal>
 #include <cstring>
 #include <ctime>
+#include <ftw.h>
+#include <grp.h>
 #include <map>
 #include <string>
 #include <sys/wait.h>
@@ -17,39 +19,25 @@
 #include <gtest/gtest.h>
 
 #include "launcher_fixture.h"
-#include "service_fixture.h"
 #include "test_rows.h"
 #include "test_support.h"
+#include "tree_snapshot.h"
 #include "vpkpack.h"
 
 namespace reliability {
 
-using servicetest::Snapshot;
-using servicetest::Tree;
+using testsupport::SameTree;
+using testsupport::Snapshot;
+using testsupport::Tree;
 
+constexpr uid_t kNobody = 65534;
 const char kRollback[] =
     "[ERROR] calderix-service(%d): Failed to extract package, rollback to old installation";
-
-// Success when got is want, else the paths that differ.
-inline ::testing::AssertionResult SameTree(const Tree& want, const Tree& got)
-{
-    std::string diff;
-    Tree all = want;
-    all.insert(got.begin(), got.end());
-    for (const auto& entry : all) {
-        const auto w = want.find(entry.first), g = got.find(entry.first);
-        if (w == want.end() || g == got.end() || w->second != g->second) {
-            diff += "\n  " + entry.first + (g == got.end() ? ": missing" : ": unexpected or changed");
-        }
-    }
-    return diff.empty() ? ::testing::AssertionSuccess()
-                        : ::testing::AssertionFailure() << diff.substr(0, 1500);
-}
 
 } // namespace reliability
 
 class ReliabilityFixture : public LauncherFixture {
-protected:
+public:
     void SetUp() override
     {
         LauncherFixture::SetUp();
@@ -115,19 +103,24 @@ protected:
             << app_ << ": " << strerror(errno);
     }
 
-    // A run's environment with kill_shim.c (built at shim) preloaded,
-    // acting at at. The shim comes ahead of the sanitizer's runtime, which
-    // is harmless here: it only forwards calls.
-    std::vector<testsupport::EnvChange> ShimEnv(const std::string& shim, const std::string& at) const
+    // Gives the fixture's tree to nobody, for a run as nobody (DropRoot):
+    // root writes into read-only folders and signals anyone all the same.
+    void GiveToNobody() const
     {
-        std::vector<testsupport::EnvChange> env = Env(home_);
-        const char* asan = getenv("ASAN_OPTIONS");
-        env.push_back(testsupport::Set("ASAN_OPTIONS", std::string(asan != nullptr ? asan : "") +
-                                                           ":verify_asan_link_order=0"));
-        env.push_back(testsupport::Set("LD_PRELOAD", shim));
-        env.push_back(testsupport::Set("CALDERIX_KILL_AT", at));
-        env.push_back(testsupport::Set("CALDERIX_KILL_ROOT", install_));
-        return env;
+        const auto give = [](const char* path, const struct stat*, int, FTW*) {
+            return lchown(path, reliability::kNobody, reliability::kNobody);
+        };
+        ASSERT_EQ(nftw(root_.c_str(), give, 16, FTW_PHYS), 0) << root_ << ": " << strerror(errno);
+    }
+
+    // For a child about to exec: runs it as nobody.
+    static void DropRoot()
+    {
+        if (setgroups(0, nullptr) != 0 || setgid(reliability::kNobody) != 0 ||
+            setuid(reliability::kNobody) != 0) {
+            perror("dropping root");
+            _exit(127);
+        }
     }
 
     // Everything of the user's outside ~/.Calderix, and the launcher's bundle.
@@ -166,21 +159,5 @@ protected:
                 WIFSIGNALED(status) ? WTERMSIG(status) : 0,
                 testsupport::ReadFile(root_ + "/" + name + ".out"),
                 testsupport::ReadFile(root_ + "/" + name + ".err")};
-    }
-
-    // How many of the log's lines, as LogLines gives them, start with start.
-    long LogCount(const std::string& start) const
-    {
-        const std::vector<std::string> lines = launchertest::LogLines(testsupport::ReadFile(LogPath()));
-        return std::count_if(lines.begin(), lines.end(),
-                             [&](const std::string& l) { return l.rfind(start, 0) == 0; });
-    }
-
-    // The user interface came up, once.
-    void ExpectUiStartedOnce() const
-    {
-        const pid_t ui = WaitForUi();
-        ASSERT_GT(ui, 0) << "no user interface came up";
-        EXPECT_EQ(UiProcesses(), std::vector<pid_t>{ui}) << "the user interface was not started exactly once";
     }
 };

@@ -10,7 +10,7 @@
 #include "launcher_fixture.h"
 #include "log.h"
 #include "mac/mac-service.h"
-#include "service_fixture.h"
+#include "tree_snapshot.h"
 
 using namespace testsupport;
 using Strings = std::vector<std::string>;
@@ -57,7 +57,7 @@ TEST_F(ServiceUnit, CopyPathReproducesTheTreeOrStopsAtTheFirstFailure)
 
     MacService service;
     EXPECT_EQ(service.FSCopyPath(src, dst), 0);
-    EXPECT_EQ(servicetest::Snapshot(dst), servicetest::Snapshot(src));
+    EXPECT_EQ(Snapshot(dst), Snapshot(src));
     Strings lines = launchertest::LogLines(ReadFile(Log()));
     std::sort(lines.begin(), lines.end()); // in the order of the folder listing
     EXPECT_EQ(lines,
