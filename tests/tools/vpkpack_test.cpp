@@ -5,7 +5,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <map>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -13,6 +12,7 @@
 #include "archive_builder.h"
 #include "test_rows.h"
 #include "test_support.h"
+#include "tree_snapshot.h"
 
 using testsupport::ReadFile;
 using testsupport::WriteFile;
@@ -22,7 +22,6 @@ using vpkpack::Status;
 namespace {
 
 namespace fs = std::filesystem;
-using Tree = std::map<std::string, std::string>;
 using Refusals = std::vector<std::pair<E, std::string>>;
 
 const char kUi[] = "Contents/MacOS/calderix-drive-ui";
@@ -68,20 +67,6 @@ std::string Lines(const Refusals& refusals)
     for (const auto& [error, entry] : refusals)
         refused.push_back(pkgrules::Refuse(error, entry));
     return Lines(refused);
-}
-
-// The tree at root as a package's entries describe it.
-Tree Snapshot(const std::string& root)
-{
-    Tree tree;
-    for (const fs::directory_entry& e : fs::recursive_directory_iterator(root)) {
-        const bool x = (e.symlink_status().permissions() & fs::perms::owner_exec) != fs::perms::none;
-        tree[e.path().lexically_relative(root).string()] =
-            e.is_symlink()     ? "link " + fs::read_symlink(e.path()).string()
-            : e.is_directory() ? "dir"
-                               : std::string("file ") + (x ? "x " : "- ") + ReadFile(e.path());
-    }
-    return tree;
 }
 
 // A bundle as the people who ship the client hand it over, with a framework
@@ -253,7 +238,7 @@ TEST_P(PackFormatTest, RoundTripsReproduciblyAndPassesCheck)
               std::make_pair(summary.version.build, checked.entries));
     std::vector<ArchiveItem> items;
     ASSERT_TRUE(ReadArchive(out_, &items));
-    Tree stored;
+    testsupport::Tree stored;
     std::string order;
     for (const ArchiveItem& e : items) {
         const bool x = e.kind != 'f' || (e.perm & 0111) != 0;
@@ -266,7 +251,7 @@ TEST_P(PackFormatTest, RoundTripsReproduciblyAndPassesCheck)
                   std::make_tuple(unsigned(e.perm), long(e.mtime), e.uid, e.gid, e.uname))
             << e.path << ": mode, time, owner, group or user name";
     }
-    EXPECT_EQ(Snapshot(bundle_), stored);
+    EXPECT_TRUE(testsupport::SameTree(testsupport::Snapshot(bundle_), stored)) << "what the package holds";
     EXPECT_EQ(
         " Frameworks/ Frameworks/Q.framework/ Frameworks/Q.framework/Q Frameworks/Q.framework/Versions/ "
         "Frameworks/Q.framework/Versions/A/ Frameworks/Q.framework/Versions/A/Q Frameworks/Q.framework/"
