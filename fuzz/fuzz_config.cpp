@@ -74,7 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
             want[ustring(pair.substr(2, pair.find('=') - 2))] = ustring(pair.substr(pair.find('=') + 1));
         }
     }
-    const std::string path = fuzzsupport::Scratch("input.conf");
+    const std::string path = fuzzsupport::Scratch() / "input.conf";
     fuzzsupport::WriteFile(path, bytes);
     Config config;
     config.entries[ustring("zz-earlier")] = ustring("kept");

@@ -66,10 +66,10 @@ int UserProcessExecutable(pid_t, std::string& exe)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static const std::string pid_file = fuzzsupport::Scratch(".Calderix/ui.pid");
+    static const std::string pid_file = fuzzsupport::Scratch() / ".Calderix/ui.pid";
     static char home[PATH_MAX];
     static const bool prepared =
-        realpath(fuzzsupport::Scratch("").c_str(), home) != nullptr && setenv("HOME", home, 1) == 0;
+        realpath(fuzzsupport::Scratch().path().c_str(), home) != nullptr && setenv("HOME", home, 1) == 0;
     FUZZ_CHECK(prepared, "cannot prepare %s", pid_file.c_str());
     fuzzsupport::WriteFile(pid_file, std::string(reinterpret_cast<const char*>(data), size));
     const long pid = NamedPid(pid_file);

@@ -1,6 +1,6 @@
 // Shared by the fuzz targets: a check that says what went wrong before it
 // aborts (so that libFuzzer keeps the input as a crash file), a scratch
-// folder and file writing.
+// folder and file writing on top of the tests' own helpers.
 #pragma once
 
 #include <algorithm>
@@ -10,10 +10,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <string>
 #include <unistd.h>
+
+#include "test_support.h"
 
 #define FUZZ_CHECK(cond, ...)                                                                                \
     ((cond) ? void()                                                                                         \
@@ -22,26 +22,19 @@
 
 namespace fuzzsupport {
 
-// A path in a scratch folder below TMPDIR (or /tmp): one folder per
-// process, removed with its contents when the program ends.
-inline std::string Scratch(const std::string& name)
+// A folder of this process's own below TMPDIR (or /tmp), removed with its
+// contents when the program ends.
+inline const testsupport::TempDir& Scratch()
 {
-    static const struct Dir {
-        std::string path =
-            std::string(std::getenv("TMPDIR") ? std::getenv("TMPDIR") : "/tmp") + "/calderix-fuzz-XXXXXX";
-        Dir() { FUZZ_CHECK(mkdtemp(&path[0]) != nullptr, "cannot create %s", path.c_str()); }
-        ~Dir() { std::filesystem::remove_all(path); }
-    } dir;
-    return dir.path + "/" + name;
+    static const testsupport::TempDir dir("calderix-fuzz");
+    return dir;
 }
 
 // Writes bytes to path, making its folder first.
 inline void WriteFile(const std::string& path, const std::string& bytes)
 {
-    std::filesystem::create_directories(std::filesystem::path(path).parent_path());
-    std::ofstream out(path, std::ios::binary | std::ios::trunc);
-    FUZZ_CHECK(out.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush(), "cannot write %s",
-               path.c_str());
+    FUZZ_CHECK(testsupport::MakeDirs(path.substr(0, path.rfind('/'))) && testsupport::WriteFile(path, bytes),
+               "cannot write %s: %s", path.c_str(), std::strerror(errno));
 }
 
 } // namespace fuzzsupport

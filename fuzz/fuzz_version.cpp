@@ -32,7 +32,6 @@ bool BuildNumber(const ustring& text, long long& number)
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
-    static unsigned long serial = 0;
     if (size < 2) {
         return 0;
     }
@@ -41,14 +40,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     const size_t split = rest.size() * data[1] / 256;
     // Each input gets homes of its own: QSettings caches a file's contents by
     // path and may miss a rewrite of the same size within the same moment.
-    const std::string root = fuzzsupport::Scratch(std::to_string(++serial));
+    const testsupport::TempDir root("calderix-fuzz-version");
     const auto enter_home = [&root](const char* name, const std::string& info, bool executable) {
-        const std::string contents = root + name + "/.Calderix/Calderix.app/Contents";
+        const std::string contents = root.path() + name + "/.Calderix/Calderix.app/Contents";
         fuzzsupport::WriteFile(contents + "/Resources/INFO", info);
         if (executable) {
             fuzzsupport::WriteFile(contents + "/MacOS/calderix-drive-ui", "#!/bin/sh\n");
         }
-        FUZZ_CHECK(setenv("HOME", (root + name).c_str(), 1) == 0, "cannot set HOME");
+        FUZZ_CHECK(setenv("HOME", (root.path() + name).c_str(), 1) == 0, "cannot set HOME");
     };
     enter_home("/user", rest.substr(split), exe_exists);
     ServiceProbe service;
@@ -56,7 +55,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     service.LoadSourceVersion();
     service.target_version = service.source_version;
     service.source_version = VerInfo();
-    setenv("HOME", (root + "/user").c_str(), 1);
+    setenv("HOME", (root / "user").c_str(), 1);
     service.LoadSourceVersion();
 
     const bool need = service.IsNeedUpgrade(), exe_found = service.PerUserBinPathExist();
@@ -67,6 +66,5 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
                "IsNeedUpgrade is %d and PerUserBinPathExist %d for package build %lld, installed build %lld, "
                "executable %s",
                need, exe_found, target, source, exe_exists ? "present" : "missing");
-    std::filesystem::remove_all(root);
     return 0;
 }

@@ -14,9 +14,18 @@ using platform::FinalLink;
 using platform::NameCase;
 const NameCase kDetect = NameCase::Detect, kSensitive = NameCase::Sensitive, kFold = NameCase::Insensitive;
 
+struct PathCase {
+    const char* name;
+    std::string path;
+    FinalLink final_link;
+    NameCase rule;
+    int error;
+    std::string canonical;
+};
+
 // sub/{Data, note, NOTE, NoTe, "Ärger" stored decomposed}, loop -> loop, and a
 // chain of twenty links l20 -> ... -> l1 -> sub.
-class ResolverTest : public FileTest {
+class ResolveTest : public FileTest, public ::testing::WithParamInterface<PathCase> {
 protected:
     void SetUp() override
     {
@@ -29,50 +38,8 @@ protected:
     }
 };
 
-struct SpellingCase {
-    const char* name;
-    std::string given;
-    NameCase rule;
-    int error;
-    std::string stored;
-};
-
-class StoredNameTest : public ResolverTest, public ::testing::WithParamInterface<SpellingCase> {};
-
-TEST_P(StoredNameTest, FindsTheSpellingOnDisk)
-{
-    const SpellingCase& row = GetParam();
-    std::string stored = "untouched";
-    EXPECT_EQ(row.error, platform::StoredName(P("sub"), row.given, row.rule, stored)) << strerror(row.error);
-    EXPECT_EQ(row.error == 0 ? row.stored : "untouched", stored);
-}
-
-const SpellingCase kRules[] = {
-    {"Exact", "Data", kSensitive, 0, "Data"},
-    {"OtherCaseSensitive", "data", kSensitive, ENOENT, ""},
-    {"OtherCaseDetected", "data", kDetect, ENOENT, ""},
-    {"OtherCaseInsensitive", "dATA", kFold, 0, "Data"},
-    {"ExactWinsOverFolded", "note", kFold, 0, "note"},
-    {"SmallestOfFolded", "Note", kFold, 0, "NOTE"},
-    {"Decomposed", "\xC3\x84rger", kSensitive, 0, "A\xCC\x88rger"},
-    {"NonAsciiFolded", "\xC3\xA4RGER", kFold, 0, "A\xCC\x88rger"},
-    {"Missing", "none", kFold, ENOENT, ""},
-};
-INSTANTIATE_TEST_SUITE_P(Rules, StoredNameTest, ::testing::ValuesIn(kRules), RowName());
-
-struct PathCase {
-    const char* name;
-    std::string path;
-    FinalLink final_link;
-    NameCase rule;
-    int error;
-    std::string canonical;
-};
-
-class ResolveTest : public ResolverTest, public ::testing::WithParamInterface<PathCase> {};
-
-// Resolves as the kernel would, respelling every component where case is
-// ignored; a failure leaves out alone.
+// Resolves as the kernel would, finding the spelling each component has on
+// disk (respelt where case is ignored); a failure leaves out alone.
 TEST_P(ResolveTest, ResolvesOrFailsLikeTheKernel)
 {
     const PathCase& row = GetParam();
@@ -82,6 +49,15 @@ TEST_P(ResolveTest, ResolvesOrFailsLikeTheKernel)
 }
 
 const PathCase kPaths[] = {
+    {"Exact", "sub/Data", FinalLink::Keep, kSensitive, 0, "sub/Data"},
+    {"OtherCaseSensitive", "sub/data", FinalLink::Keep, kSensitive, ENOENT, ""},
+    {"OtherCaseDetected", "sub/data", FinalLink::Keep, kDetect, ENOENT, ""},
+    {"OtherCaseInsensitive", "sub/dATA", FinalLink::Keep, kFold, 0, "sub/Data"},
+    {"ExactWinsOverFolded", "sub/note", FinalLink::Keep, kFold, 0, "sub/note"},
+    {"SmallestOfFolded", "sub/Note", FinalLink::Keep, kFold, 0, "sub/NOTE"},
+    {"Decomposed", "sub/\xC3\x84rger", FinalLink::Keep, kSensitive, 0, "sub/A\xCC\x88rger"},
+    {"NonAsciiFolded", "sub/\xC3\xA4RGER", FinalLink::Keep, kFold, 0, "sub/A\xCC\x88rger"},
+    {"Missing", "sub/none", FinalLink::Keep, kFold, ENOENT, ""},
     {"MissingMiddle", "none/Data", FinalLink::Keep, kDetect, ENOENT, ""},
     {"FileAsFolder", "sub/Data/x", FinalLink::Keep, kDetect, ENOTDIR, ""},
     {"FinalSlash", "sub/Data/", FinalLink::Keep, kDetect, ENOTDIR, ""},

@@ -3,8 +3,6 @@
 
 #include <cstring>
 #include <filesystem>
-#include <functional>
-#include <grp.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -19,24 +17,6 @@ using namespace testsupport;
 inline bool MakeLink(const std::string& target, const std::string& link)
 {
     return symlink(target.c_str(), link.c_str()) == 0;
-}
-
-// Runs body in a child that gave up root for nobody; its exit status, or -1
-// after failing the test when the child could not drop root or died.
-inline int RunAsNobody(const std::function<int()>& body)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        if (setgroups(0, nullptr) != 0 || setgid(65534) != 0 || setuid(65534) != 0)
-            _exit(250);
-        _exit(body() & 0xff);
-    }
-    const int status = child < 0 ? -1 : testsupport::Wait(child);
-    if (status == -1 || !WIFEXITED(status) || WEXITSTATUS(status) == 250) {
-        ADD_FAILURE() << "child as nobody failed to start, drop root or exit (status " << status << ")";
-        return -1;
-    }
-    return WEXITSTATUS(status);
 }
 
 // A fresh folder, named by its real path (canonical paths are compared with

@@ -16,10 +16,12 @@ namespace fs = std::filesystem;
 
 namespace testsupport {
 
-TempDir::TempDir(const std::string& prefix)
+TempDir::TempDir(const std::string& prefix, std::string base)
 {
-    const char* base = getenv("TMPDIR");
-    path_ = std::string(base && *base ? base : "/tmp") + "/" + prefix + "-XXXXXX";
+    const char* tmpdir = getenv("TMPDIR");
+    if (base.empty())
+        base = tmpdir && *tmpdir ? tmpdir : "/tmp";
+    path_ = base + "/" + prefix + "-XXXXXX";
     if (mkdtemp(&path_[0]) == nullptr) {
         fprintf(stderr, "mkdtemp(%s): %s\n", path_.c_str(), strerror(errno));
         abort();

@@ -10,11 +10,11 @@
 
 namespace testsupport {
 
-// A fresh folder under $TMPDIR (or /tmp), removed with everything in it
-// when the object goes away.
+// A fresh folder under base (by default $TMPDIR or /tmp), removed with
+// everything in it when the object goes away.
 class TempDir {
 public:
-    explicit TempDir(const std::string& prefix = "calderix-test");
+    explicit TempDir(const std::string& prefix = "calderix-test", std::string base = {});
     ~TempDir();
     TempDir(const TempDir&) = delete;
     TempDir& operator=(const TempDir&) = delete;
