@@ -49,7 +49,6 @@ TEST_P(ResolveTest, ResolvesOrFailsLikeTheKernel)
 }
 
 const PathCase kPaths[] = {
-    {"Exact", "sub/Data", FinalLink::Keep, kSensitive, 0, "sub/Data"},
     {"OtherCaseSensitive", "sub/data", FinalLink::Keep, kSensitive, ENOENT, ""},
     {"OtherCaseDetected", "sub/data", FinalLink::Keep, kDetect, ENOENT, ""},
     {"OtherCaseInsensitive", "sub/dATA", FinalLink::Keep, kFold, 0, "sub/Data"},

@@ -14,8 +14,6 @@
 int main(int argc, char** argv)
 {
     const char* barrier = argc == 3 && std::strcmp(argv[1], "--barrier") == 0 ? argv[2] : nullptr;
-    if (argc > 1 && !barrier)
-        return 2;
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     QtSingleApplication app(argc, argv, true);
     if (barrier) {

@@ -25,12 +25,6 @@ namespace {
 
 constexpr uid_t kNobody = 65534;
 
-// The per-user lock folder name in a temporary folder.
-std::string lockFolderName()
-{
-    return "calderix-singleapp-" + std::to_string(::geteuid());
-}
-
 long lockFilesIn(const std::string& dir)
 {
     std::error_code ec;
@@ -49,6 +43,20 @@ void makeFolder(const std::string& dir, mode_t mode, uid_t owner = ::geteuid())
 struct Helper {
     pid_t pid = -1;
     FILE* out = nullptr;
+
+    // Ends the helper at once, the way a crash would.
+    void Kill()
+    {
+        if (pid > 0 && ::kill(pid, SIGKILL) == 0)
+            ts::Wait(pid);
+        pid = -1;
+    }
+    ~Helper()
+    {
+        Kill();
+        if (out)
+            std::fclose(out);
+    }
 };
 
 class SingleApp : public ::testing::Test {
@@ -58,15 +66,6 @@ protected:
         for (const std::string& folder : {tmp_, home_, dir_ / "run"})
             ASSERT_NO_FATAL_FAILURE(makeFolder(folder, 0700));
         exe_ = install("bin");
-    }
-
-    void TearDown() override
-    {
-        for (Helper& h : helpers_) {
-            kill9(h);
-            if (h.out)
-                std::fclose(h.out);
-        }
     }
 
     // Copies the helper to a path this test controls.
@@ -93,7 +92,7 @@ protected:
         return h;
     }
 
-    // Starts a helper and returns its answer; TearDown ends it.
+    // Starts a helper and returns its answer; the helper ends with the test.
     std::string answer(const std::vector<std::string>& argv) { return line(launch(argv)); }
 
     static std::string line(Helper& h)
@@ -105,21 +104,15 @@ protected:
         return buf;
     }
 
-    // Ends the helper at once, the way a crash would.
-    static void kill9(Helper& h)
-    {
-        if (h.pid > 0 && ::kill(h.pid, SIGKILL) == 0)
-            ts::Wait(h.pid);
-        h.pid = -1;
-    }
-
     ts::TempDir dir_{"singleapp-test"};
-    std::string tmp_ = dir_ / "tmp", home_ = dir_ / "home", run_, exe_;
+    // own_: this user's lock folder in the temporary folder.
+    std::string tmp_ = dir_ / "tmp", home_ = dir_ / "home", run_, exe_,
+                own_ = tmp_ + "/calderix-singleapp-" + std::to_string(::geteuid());
     std::deque<Helper> helpers_;
 };
 
 // Where the lock goes, also when the usual place is spoilt. In `expected` and
-// `avoided`, "@" stands for the user's lock folder name.
+// `avoided`, a leading "@" stands for own_, the rest are below dir_.
 struct PlaceRow {
     const char* name;
     bool needsRoot, runtimeDir;
@@ -128,36 +121,35 @@ struct PlaceRow {
 };
 
 const PlaceRow kPlaces[] = {
-    {"TempFolder", false, false, nullptr, "tmp/@", nullptr},
-    {"RuntimeDir", false, true, nullptr, "run", "tmp/@"},
+    {"TempFolder", false, false, nullptr, "@", nullptr},
+    {"RuntimeDir", false, true, nullptr, "run", "@"},
     {"SymlinkedTempFolder", false, false,
      [](const std::string& root, const std::string& own) {
          ASSERT_NO_FATAL_FAILURE(makeFolder(root + "/decoy", 0700));
          ASSERT_EQ(::symlink((root + "/decoy").c_str(), own.c_str()), 0)
              << own << ": " << std::strerror(errno);
      },
-     "tmp/@-1", "decoy"},
+     "@-1", "decoy"},
     {"RuntimeDirOpenToOthers", false, true,
      [](const std::string& root, const std::string&) {
          ASSERT_EQ(::chmod((root + "/run").c_str(), 0705), 0) << std::strerror(errno);
      },
-     "tmp/@", "run"},
+     "@", "run"},
     {"EveryTempFolderForeign", true, false,
      [](const std::string&, const std::string& own) {
          for (const char* suffix : {"", "-1", "-2", "-3"})
              ASSERT_NO_FATAL_FAILURE(makeFolder(own + suffix, 0777, kNobody));
      },
-     "home/.calderix-singleapp", "tmp/@-3"},
+     "home/.calderix-singleapp", "@-3"},
     {"OwnTempFolderWithWideMode", false, false,
-     [](const std::string&, const std::string& own) { makeFolder(own, 0777); }, "tmp/@", nullptr},
+     [](const std::string&, const std::string& own) { makeFolder(own, 0777); }, "@", nullptr},
 };
 
 class LockPlace : public SingleApp, public ::testing::WithParamInterface<PlaceRow> {
 protected:
-    std::string place(std::string rel) const
+    std::string place(const std::string& rel) const
     {
-        const size_t at = rel.find('@');
-        return dir_ / (at == std::string::npos ? rel : rel.replace(at, 1, lockFolderName()));
+        return rel[0] == '@' ? own_ + rel.substr(1) : dir_ / rel;
     }
 };
 
@@ -171,7 +163,7 @@ TEST_P(LockPlace, StartsExcludeEachOtherThroughOnePrivateFolder)
     if (row.runtimeDir)
         run_ = dir_ / "run";
     if (row.spoil) {
-        ASSERT_NO_FATAL_FAILURE(row.spoil(dir_.path(), tmp_ + "/" + lockFolderName()));
+        ASSERT_NO_FATAL_FAILURE(row.spoil(dir_.path(), own_));
     }
 
     Helper& first = launch({exe_});
@@ -187,7 +179,7 @@ TEST_P(LockPlace, StartsExcludeEachOtherThroughOnePrivateFolder)
     EXPECT_EQ(lockFilesIn(expected), 1) << "lock files in " << expected;
     EXPECT_TRUE(!row.avoided || lockFilesIn(place(row.avoided)) == 0) << "a lock file in " << row.avoided;
 
-    kill9(first);
+    first.Kill();
     EXPECT_EQ(lockFilesIn(expected), 1) << "the lock file must outlive its holder";
     EXPECT_EQ(answer({exe_}), "first") << "a killed holder still blocks the instance";
 }
@@ -202,7 +194,7 @@ TEST_F(SingleApp, CopiesAtTwoPathsRunIndependently)
     ASSERT_EQ(answer({a}), "first");
     EXPECT_EQ(answer({b}), "first") << "a copy at another path was refused";
     EXPECT_EQ(answer({link}), "running") << "a symlink to a running executable is the same executable";
-    EXPECT_EQ(lockFilesIn(tmp_ + "/" + lockFolderName()), 2) << "one lock file per executable expected";
+    EXPECT_EQ(lockFilesIn(own_), 2) << "one lock file per executable expected";
 }
 
 TEST_F(SingleApp, TwentySimultaneousStartsExactlyOneWins)
@@ -210,19 +202,18 @@ TEST_F(SingleApp, TwentySimultaneousStartsExactlyOneWins)
     constexpr int kStarts = 20;
     const std::string gate = dir_ / "barrier";
     ASSERT_EQ(::mkfifo(gate.c_str(), 0600), 0) << gate << ": " << std::strerror(errno);
-    std::vector<Helper*> starts;
     for (int i = 0; i < kStarts; ++i)
-        starts.push_back(&launch({exe_, "--barrier", gate}));
-    for (Helper* h : starts)
-        ASSERT_EQ(line(*h), "ready") << "helper " << h->pid << " did not reach the barrier";
+        launch({exe_, "--barrier", gate});
+    for (Helper& h : helpers_)
+        ASSERT_EQ(line(h), "ready") << "helper " << h.pid << " did not reach the barrier";
 
     // Opening the FIFO for writing releases every reader at once; it stays
     // open until all have answered, so a late reader is not stranded.
     const int fd = ::open(gate.c_str(), O_WRONLY | O_CLOEXEC);
     ASSERT_GE(fd, 0) << gate << ": " << std::strerror(errno);
     std::map<std::string, int> answers;
-    for (Helper* h : starts)
-        ++answers[line(*h)];
+    for (Helper& h : helpers_)
+        ++answers[line(h)];
     ::close(fd);
     EXPECT_EQ((std::map<std::string, int>{{"first", 1}, {"running", kStarts - 1}}), answers);
 }

@@ -96,16 +96,6 @@ bool Exists(const std::string& path)
     return lstat(path.c_str(), &st) == 0;
 }
 
-EnvChange Set(const std::string& name, const std::string& value)
-{
-    return EnvChange{name, value, false};
-}
-
-EnvChange Unset(const std::string& name)
-{
-    return EnvChange{name, {}, true};
-}
-
 namespace {
 
 // Starts argv with this process's environment changed as `changes` say and

@@ -42,8 +42,14 @@ struct EnvChange {
     std::string name, value;
     bool unset = false;
 };
-EnvChange Set(const std::string& name, const std::string& value);
-EnvChange Unset(const std::string& name);
+inline EnvChange Set(const std::string& name, const std::string& value)
+{
+    return EnvChange{name, value};
+}
+inline EnvChange Unset(const std::string& name)
+{
+    return EnvChange{name, {}, true};
+}
 
 struct ProcessResult {
     bool exited = false; // ended by exit() rather than a signal

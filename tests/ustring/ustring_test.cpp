@@ -53,18 +53,6 @@ const UnicodeRow kTexts[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Texts, UstringUnicode, ::testing::ValuesIn(kTexts), testsupport::RowName());
 
-// The buffer fits the need (length + 1), shrinking only below half of it.
-TEST(UstringCapacity, ExactFitAndImpossibleSizes)
-{
-    ustring s("0123456789");
-    EXPECT_EQ(s.capacity(), 11UL);
-    s = "0123";
-    EXPECT_EQ(s.capacity(), 11UL) << "need 5 is not below half of 11";
-    EXPECT_THROW(s.append('x', ULONG_MAX - 2), std::bad_alloc) << "a size past the largest not refused";
-    s = "x";
-    EXPECT_EQ(s.capacity(), 2UL);
-}
-
 // An edit of a string whose UTF-16 form was built before: afterwards both
 // forms must hold `after`.
 struct EditRow {
@@ -105,6 +93,8 @@ const EditRow kEdits[] = {
     {"SubstrAtEnd", "abc", [](S s) { s = s.substr(3, 5); }, ""},
     {"SubstrPastEndThrows", "abc", [](S s) { EXPECT_THROW(s.substr(4, 1), std::out_of_range); }, "abc"},
     {"FailedSelfAssignKeeps", "ab", [](S s) { EXPECT_THROW(s.assign(s, 3, 1), std::out_of_range); }, "ab"},
+    {"ImpossibleSizeThrows", "ab", [](S s) { EXPECT_THROW(s.append('x', ULONG_MAX - 2), std::bad_alloc); },
+     "ab"},
     {"TrimSpaceTab", " \ta b\t ", [](S s) { s.trim(" \t"); }, "a b"},
     {"LtrimOnlySetBytes", "xxxx", [](S s) { s.ltrim("x"); }, ""},
     {"RtrimOnlySetBytes", "xxxx", [](S s) { s.rtrim(ustring("x")); }, ""},

@@ -1,4 +1,6 @@
-// Changing the file system: folders, copies, moves, removal, temporary files.
+// The file module: looking at the file system (records, canonical paths,
+// existence, listings) and changing it (folders, copies, moves, removal,
+// temporary files).
 #include <filesystem>
 #include <functional>
 #include <set>
@@ -35,9 +37,94 @@ bool MakeTree(const std::string& root)
            WriteFile(root + "/tree/Cafe\xCC\x81", "nfd");
 }
 
-// One call on a fresh layout: dir/in, file, dirlink -> dir, src ("payload").
-// A failure changes no name in the folder and never harms src. A call that
-// must make something adds 1 to its result when it did not.
+const std::string kNfd = "Cafe\xCC\x81", kNfc = "Caf\xC3\xA9"; // e + combining acute, as macOS stores it
+constexpr int kFile = FS_TYPE_REGULAR, kDir = FS_TYPE_DIR, kLink = FS_TYPE_SYMLINK, kNone = FS_TYPE_NONE;
+
+// real/sub dir/{data.txt, NFD name, flink -> data.txt}, link -> <abs real>,
+// rel -> "real/sub dir", chain -> link, file ("f") and src ("payload").
+class TreeTest : public FileTest {
+protected:
+    void SetUp() override
+    {
+        FileTest::SetUp();
+        ASSERT_TRUE(MakeDirs(P("real/sub dir")) && WriteFile(P("real/sub dir/data.txt"), "12345") &&
+                    WriteFile(P("real/sub dir/") + kNfd, "x") &&
+                    MakeLink("data.txt", P("real/sub dir/flink")) && MakeLink(P("real"), P("link")) &&
+                    MakeLink("real/sub dir", P("rel")) && MakeLink("link", P("chain")) &&
+                    WriteFile(P("file"), "f") && WriteFile(P("src"), "payload"))
+            << "tree: " << strerror(errno);
+    }
+};
+
+// exact: whether IsFileExist with exact set finds the path as given.
+struct LookupCase {
+    const char* name;
+    std::string given, canonical; // canonical: the given path when missing
+    int type;
+    bool exact;
+};
+
+class LookupTest : public TreeTest, public ::testing::WithParamInterface<LookupCase> {};
+
+TEST_P(LookupTest, ResolvesFoldersKeepsFinalLinkAndFindsExactSpellingsOnly)
+{
+    const LookupCase& row = GetParam();
+    _FILE_INFO_tag info;
+    ASSERT_EQ(0, GetFileInfo(P(row.given), info));
+    EXPECT_EQ(row.type, info.type);
+    EXPECT_EQ(row.type != FS_TYPE_NONE, IsFileExist(P(row.given), false)) << "not exact";
+    EXPECT_EQ(row.exact, IsFileExist(P(row.given), true)) << "exact";
+    EXPECT_EQ(P(row.canonical), info.path.c_str());
+}
+
+const LookupCase kLayouts[] = {
+    {"LinkedFolder", "link/sub dir/data.txt", "real/sub dir/data.txt", kFile, false},
+    {"RelativeLink", "rel/data.txt", "real/sub dir/data.txt", kFile, false},
+    {"LinkChain", "chain/sub dir", "real/sub dir", kDir, false},
+    {"FinalLinkKept", "real/sub dir/flink", "real/sub dir/flink", kLink, true},
+    {"FinalSlash", "real/", "real", kDir, false},
+    {"DotDotAfterLink", "rel/../sub dir/./data.txt", "real/sub dir/data.txt", kFile, false},
+    {"DecomposedName", "link/sub dir/" + kNfd, "real/sub dir/" + kNfc, kFile, false},
+    {"ComposedFindsDecomposed", "real/sub dir/" + kNfc, "real/sub dir/" + kNfc, kFile, true},
+    {"OtherCase", "REAL/sub dir/data.txt", "REAL/sub dir/data.txt", kNone, false},
+};
+INSTANTIATE_TEST_SUITE_P(Layouts, LookupTest, ::testing::ValuesIn(kLayouts), RowName());
+
+// Types come from the entries themselves; FS_DIR_STAT adds times and sizes.
+TEST_F(TreeTest, FSReadDirListsTypesAndStatData)
+{
+    const std::string folder = P("real/sub dir");
+    ASSERT_TRUE(FSUTime(folder + "/flink", 0, 1400000000) == 0 &&
+                FSUTime(folder + "/data.txt", 0, 1500000000) == 0);
+    for (const int flags : {0, int{FS_DIR_STAT}}) {
+        DIR_HANDLE handle;
+        ASSERT_EQ(0, FSOpenDir(folder, flags, handle));
+        std::set<std::string> seen; // "name type mtime size"
+        DIR_ENTRY entry;
+        int result;
+        while ((result = FSReadDir(handle, entry)) == 1)
+            seen.insert(std::string(entry.name.c_str()) + " " + std::to_string(entry.type) + " " +
+                        std::to_string(entry.mtime) + " " + std::to_string(entry.size));
+        FSCloseDir(handle);
+        EXPECT_EQ(0, result);
+        EXPECT_EQ(1u, seen.count(flags ? "flink 3 1400000000 8" : "flink 3 0 0")) << "flags " << flags;
+        EXPECT_EQ(1u, seen.count(flags ? "data.txt 1 1500000000 5" : "data.txt 1 0 0")) << "flags " << flags;
+    }
+}
+
+TEST_F(FileTest, ReadLinkFitsUpTo1023Bytes)
+{
+    const std::string text(1024, 'x');
+    ustring out;
+    ASSERT_TRUE(MakeLink(text.substr(0, 1023), P("fits")) && MakeLink(text.substr(0, 1024), P("over")));
+    EXPECT_EQ(0, FSReadSymbolicLink(P("fits"), out));
+    EXPECT_EQ(text.substr(0, 1023), out.c_str());
+    EXPECT_EQ(-1, FSReadSymbolicLink(P("over"), out)) << "1024 bytes do not fit";
+}
+
+// One call on a fresh tree. A failure changes no name in the folder and never
+// harms src. A call that must make something adds 1 to its result when it
+// did not.
 using In = const std::function<std::string(const std::string&)>&;
 struct CallCase {
     const char* name;
@@ -45,12 +132,10 @@ struct CallCase {
     int result;
 };
 
-class CallTest : public FileTest, public ::testing::WithParamInterface<CallCase> {};
+class CallTest : public TreeTest, public ::testing::WithParamInterface<CallCase> {};
 
 TEST_P(CallTest, ReturnsItsCodeAndFailsCleanly)
 {
-    ASSERT_TRUE(MakeDirs(P("dir")) && WriteFile(P("dir/in"), "i") && WriteFile(P("file"), "f") &&
-                MakeLink(P("dir"), P("dirlink")) && WriteFile(P("src"), "payload"));
     const std::set<std::string> before = Listing(root_);
     EXPECT_EQ(GetParam().result,
               GetParam().call([this](const std::string& relative) { return P(relative); }));
@@ -62,25 +147,27 @@ TEST_P(CallTest, ReturnsItsCodeAndFailsCleanly)
 
 const CallCase kCalls[] = {
     {"MkdirParents", [](In p) { return FSMKDir(p("p/q/r"), true) + !IsFolder(p("p/q/r")); }, 0},
-    {"MkdirExisting", [](In p) { return FSMKDir(p("dir"), false); }, 0},
+    {"MkdirExisting", [](In p) { return FSMKDir(p("real"), false); }, 0},
     {"MkdirMissingParent", [](In p) { return FSMKDir(p("p/q/r"), false); }, -2},
     {"MkdirOnFile", [](In p) { return FSMKDir(p("file"), true); }, -1},
-    {"MkdirOnLinkToFolder", [](In p) { return FSMKDir(p("dirlink"), true); }, -1},
+    {"MkdirOnLinkToFolder", [](In p) { return FSMKDir(p("link"), true); }, -1},
     {"MkdirPOnFileUnforced", [](In p) { return FSMKDirP(p("file"), nullptr, false, 0xFFFF); }, -1},
     {"MkdirPForced", [](In p) { return FSMKDirP(p("file"), nullptr, true, 0xFFFF) + !IsFolder(p("file")); },
      0},
-    {"FromRoot", [](In p) { return FSMKDirFromRoot(p("dir/a/b"), p("dir")) + !IsFolder(p("dir/a/b")); }, 0},
-    {"FromRootPrefixIsNoParent", [](In p) { return FSMKDirFromRoot(p("dirx/y"), p("dir")); }, -1},
+    {"FromRoot", [](In p) { return FSMKDirFromRoot(p("real/a/b"), p("real")) + !IsFolder(p("real/a/b")); },
+     0},
+    {"FromRootPrefixIsNoParent", [](In p) { return FSMKDirFromRoot(p("realx/y"), p("real")); }, -1},
     {"CopyOntoFullDevice", [](In p) { return FSCopy(p("src"), "/dev/full", true); }, -2},
     {"CopyMissingSource", [](In p) { return FSCopy(p("none"), p("dst"), true); }, -1},
     {"CopyIntoMissingFolder", [](In p) { return FSCopy(p("src"), p("none/dst"), true); }, -1},
     {"CopyOntoItself", [](In p) { return FSCopy(p("src"), p("src"), true); }, -1},
-    {"RenameViaLink", [](In p) { return FSRename(p("dirlink/in"), p("m"), false) + !Exists(p("m")); }, 0},
-    {"RenameViaLinkExact", [](In p) { return FSRename(p("dirlink/in"), p("moved"), true); }, -2},
+    {"RenameViaLink",
+     [](In p) { return FSRename(p("link/sub dir/data.txt"), p("m"), false) + !Exists(p("m")); }, 0},
+    {"RenameViaLinkExact", [](In p) { return FSRename(p("link/sub dir/data.txt"), p("moved"), true); }, -2},
     {"RenameEmptyPath", [](In p) { return FSRename("", p("x"), false); }, -1},
     {"RenameMissing", [](In p) { return FSRename(p("none"), p("x"), false); }, -2},
     {"RenameLongName", [](In p) { return FSRename(p("src"), p(std::string(300, 'n')), false); }, -100},
-    {"RenameIntoItself", [](In p) { return FSRename(p("dir"), p("dir/inside"), false); }, -3},
+    {"RenameIntoItself", [](In p) { return FSRename(p("real"), p("real/inside"), false); }, -3},
     {"RemoveMissing", [](In p) { return FSRemove(p("none"), false); }, 0},
     {"RemoveBelowFile", [](In p) { return FSRemove(p("file/x"), false); }, -1},
 };
