@@ -76,20 +76,11 @@ __attribute__((constructor)) static void Setup(void)
     unsetenv("CALDERIX_KILL_ROOT");
 }
 
-static void* Next(const char* name)
-{
-    void* f = dlsym(RTLD_NEXT, name);
-    if (f == NULL) {
-        abort();
-    }
-    return f;
-}
-
-// Looks the real function up once.
+// Looks the real function up once; there is no going on without it.
 #define REAL(name)                                                                                           \
     static __typeof__(&name) real_##name;                                                                    \
-    if (real_##name == NULL) {                                                                               \
-        real_##name = (__typeof__(&name))Next(#name);                                                        \
+    if (real_##name == NULL && (real_##name = (__typeof__(&name))dlsym(RTLD_NEXT, #name)) == NULL) {         \
+        abort();                                                                                             \
     }
 
 static void Die(void)
