@@ -10,31 +10,22 @@ using namespace testsupport;
 
 namespace {
 
-class InstalledBundle : public ReliabilityFixture {
-protected:
-    void SetUp() override
-    {
-        ReliabilityFixture::SetUp();
-        // The fixture's copy of the build tree's bundle makes way for the
-        // installed one, at the same path.
-        ASSERT_TRUE(!HasFatalFailure() && RemoveTree(bundle_)) << bundle_ << ": " << strerror(errno);
-        const ProcessResult install =
-            testsupport::Run({CMAKE_BIN, "--install", BUILD_DIR, "--prefix", root_});
-        ASSERT_EQ(install.exit_code, 0) << "cmake --install failed:\n" << install.out << install.err;
-        frameworks_ = bundle_ + "/Contents/Frameworks";
-        for (const auto& entry : std::filesystem::directory_iterator(frameworks_)) {
-            carried_.insert(entry.path().filename());
-        }
-        ASSERT_TRUE(carried_.count("libQt5Core.so.5") && carried_.count("libarchive.so.13"))
-            << "the bundle carries no Qt or libarchive";
-    }
-
-    std::string frameworks_;
-    std::set<std::string> carried_; // the names in Contents/Frameworks
-};
+using InstalledBundle = ReliabilityFixture;
 
 TEST_F(InstalledBundle, MapsWhatItCarriesFromItselfAndInstallsTheClient)
 {
+    // The fixture's copy of the build tree's bundle makes way for the
+    // installed one, at the same path.
+    ASSERT_TRUE(RemoveTree(bundle_)) << bundle_ << ": " << strerror(errno);
+    const ProcessResult install = testsupport::Run({CMAKE_BIN, "--install", BUILD_DIR, "--prefix", root_});
+    ASSERT_EQ(install.exit_code, 0) << "cmake --install failed:\n" << install.out << install.err;
+    const std::string frameworks = bundle_ + "/Contents/Frameworks";
+    std::set<std::string> carried; // the names in Contents/Frameworks
+    for (const auto& entry : std::filesystem::directory_iterator(frameworks)) {
+        carried.insert(entry.path().filename());
+    }
+    ASSERT_TRUE(carried.count("libQt5Core.so.5") && carried.count("libarchive.so.13"))
+        << "the bundle carries no Qt or libarchive";
     // Stopped at its first entry of the upgrade, it has loaded its libraries
     // and its platform plug-in.
     const pid_t pid = StartLauncher("run", ShimEnv("stop:1"));
@@ -50,7 +41,7 @@ TEST_F(InstalledBundle, MapsWhatItCarriesFromItselfAndInstallsTheClient)
         const std::string file = line.substr(std::min(line.find('/'), line.size()));
         const std::string name = file.substr(file.rfind('/') + 1);
         const bool inside = file.rfind(bundle_ + "/", 0) == 0;
-        EXPECT_TRUE(inside || carried_.count(name) == 0)
+        EXPECT_TRUE(inside || carried.count(name) == 0)
             << file << " is mapped from the system although the bundle carries it";
         for (const char* kind :
              {"libQt5Core.", "libQt5Widgets.", "libicuuc.", "libarchive.", "libqoffscreen."}) {
@@ -62,7 +53,7 @@ TEST_F(InstalledBundle, MapsWhatItCarriesFromItselfAndInstallsTheClient)
     EXPECT_EQ(kinds.size(), 5u) << "not every kind of library is mapped from the bundle";
     const ProcessResult run = Finish(pid, "run");
     ASSERT_TRUE(run.exited && run.exit_code == 0) << run.err;
-    EXPECT_EQ(run.out, "lib path = '" + frameworks_ + "/plugins'\n");
+    EXPECT_EQ(run.out, "lib path = '" + frameworks + "/plugins'\n");
     EXPECT_GT(WaitForUi(), 0) << "the installed client did not start";
     EXPECT_TRUE(reliability::SameTree(reliability::Snapshot(DEMO_CLIENT), reliability::Snapshot(app_)))
         << "the client is not installed as packed";

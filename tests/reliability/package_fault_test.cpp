@@ -61,8 +61,8 @@ enum class Fault { Cut, Flip, FileSizeLimit, ReadOnlyFolder, Hostile };
 struct FaultRow {
     const char* name;
     Fault fault;
-    int per_mille;                         // Cut and Flip: the place as a share of the package's size,
-    int from_end;                          // then moved this many bytes back (or, below 0, forward)
+    int per_mille;                         // Cut and Flip: the place as a share of the package's size
+                                           // (1000: its last byte)
     bool first_time = false;               // no installed copy
     const char* reason = nullptr;          // the start of libarchive's text in the extractor's error line
     std::vector<ArchiveItem> entries = {}; // Hostile: ahead of the client's UI and version file unless named
@@ -86,8 +86,7 @@ TEST_P(PackageFault, OldCopyComesBackOrFirstInstallationReportsIt)
     const int total = hostile ? PackClient("1201") : PackClient("1201", kFolders, kFilesPerFolder);
     std::string data = ReadFile(package_);
     const long size = static_cast<long>(data.size());
-    const size_t at =
-        static_cast<size_t>(std::clamp(size * row.per_mille / 1000 - row.from_end, 0L, size - 1));
+    const size_t at = static_cast<size_t>(std::clamp(size * row.per_mille / 1000, 0L, size - 1));
     if (row.fault == Fault::Flip) {
         data[at] = static_cast<char>(data[at] ^ 0xff);
     } else if (row.fault == Fault::Cut) {
@@ -149,18 +148,18 @@ TEST_P(PackageFault, OldCopyComesBackOrFirstInstallationReportsIt)
 // A row of a package written by hand, installed for the first time.
 FaultRow Hostile(const char* name, vpkpack::Error check, std::vector<ArchiveItem> entries)
 {
-    return FaultRow{name, Fault::Hostile, 0, 0, true, nullptr, std::move(entries), check};
+    return FaultRow{name, Fault::Hostile, 0, true, nullptr, std::move(entries), check};
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Faults, PackageFault,
     ::testing::Values(
-        FaultRow{"cut_to_empty", Fault::Cut, 0, 0}, FaultRow{"cut_at_half", Fault::Cut, 500, 0},
-        FaultRow{"cut_last_byte", Fault::Cut, 1000, 1}, FaultRow{"flip_magic", Fault::Flip, 0, 0},
-        FaultRow{"flip_at_a_third", Fault::Flip, 333, 0},
-        FaultRow{"first_time_cut_at_half", Fault::Cut, 500, 0, true},
-        FaultRow{"file_size_limit", Fault::FileSizeLimit, 0, 0, false, "Write"},
-        FaultRow{"read_only_folder", Fault::ReadOnlyFolder, 0, 0, false, "Can't create '"},
+        FaultRow{"cut_to_empty", Fault::Cut, 0}, FaultRow{"cut_at_half", Fault::Cut, 500},
+        FaultRow{"cut_last_byte", Fault::Cut, 1000}, FaultRow{"flip_magic", Fault::Flip, 0},
+        FaultRow{"flip_at_a_third", Fault::Flip, 333},
+        FaultRow{"first_time_cut_at_half", Fault::Cut, 500, true},
+        FaultRow{"file_size_limit", Fault::FileSizeLimit, 0, false, "Write"},
+        FaultRow{"read_only_folder", Fault::ReadOnlyFolder, 0, false, "Can't create '"},
         Hostile("dot_dot_name", vpkpack::Error::DotDotName, {{"Contents/../../escape.txt"}}),
         Hostile("absolute_symlink_then_entry_through_it", vpkpack::Error::BelowSymlink,
                 {{"Contents/out", "", 'l', 0777, "@"}, {"Contents/out/evil.txt"}}),

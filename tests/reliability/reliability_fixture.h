@@ -2,25 +2,12 @@
 // cut short, from a private copy of the demo bundle with a fake home.
 #pragma once
 
-#include <algorithm>
-#include <cerrno>
-#include <csignal>
-#include <cstring>
 #include <ctime>
 #include <ftw.h>
 #include <grp.h>
 #include <map>
-#include <string>
-#include <sys/wait.h>
-#include <unistd.h>
-#include <utility>
-#include <vector>
-
-#include <gtest/gtest.h>
 
 #include "launcher_fixture.h"
-#include "test_rows.h"
-#include "test_support.h"
 #include "tree_snapshot.h"
 #include "vpkpack.h"
 
