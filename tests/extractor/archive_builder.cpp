@@ -2,6 +2,7 @@
 
 #include <archive.h>
 #include <archive_entry.h>
+#include <cstring>
 #include <memory>
 #include <random>
 #include <sys/sysmacros.h>
@@ -33,11 +34,10 @@ using Handle = std::unique_ptr<archive, int (*)(archive*)>;
                                                                              archive_entry_free);
         archive_entry* e = entry.get();
         archive_entry_set_pathname(e, item.path.c_str());
-        archive_entry_set_filetype(e, item.kind == 'd'   ? AE_IFDIR
-                                      : item.kind == 'l' ? AE_IFLNK
-                                      : item.kind == 'p' ? AE_IFIFO
-                                      : item.kind == 'c' ? AE_IFCHR
-                                                         : AE_IFREG);
+        // The kinds in the order of their types; any other kind is a file.
+        const char* const kinds = "dlpc";
+        const unsigned types[] = {AE_IFDIR, AE_IFLNK, AE_IFIFO, AE_IFCHR, AE_IFREG};
+        archive_entry_set_filetype(e, types[strchrnul(kinds, item.kind) - kinds]);
         archive_entry_set_rdev(e, item.kind == 'c' ? makedev(1, 5) : 0);
         archive_entry_set_perm(e, item.perm);
         archive_entry_set_size(e, static_cast<la_int64_t>(item.data.size()));

@@ -70,11 +70,13 @@ public:
         return app;
     }
 
-    // The launcher bundle's package and version file for that client
-    // bundle; the package's entry count.
-    int PackClient(const std::string& build, int folders = 0, int files_per_folder = 0)
+    // The launcher bundle's package, in format, and version file for that
+    // client bundle; the package's entry count.
+    int PackClient(const std::string& build, int folders = 0, int files_per_folder = 0,
+                   vpkpack::Format format = vpkpack::Format::TarZst)
     {
         vpkpack::PackOptions options;
+        options.format = format;
         options.info_out = bundle_ + "/Contents/Resources/INFO";
         vpkpack::PackageSummary summary;
         const vpkpack::Status status =

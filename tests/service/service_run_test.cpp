@@ -292,18 +292,15 @@ void BelowNamespaceInit(ServiceRun&)
 // A pid file left by a user interface that crashed, whose number now
 // belongs to another process: that process gets no signal, and the
 // upgrade goes on at once.
-Row Stranger(const char* name, std::function<pid_t(ServiceRun&)> who)
-{
-    return Named(name, who,
-                 {"[NOTE] mac/mac-service(%d): pid <pid> is not the user interface, nothing to terminate"});
-}
+const char kStranger[] =
+    "[NOTE] mac/mac-service(%d): pid <pid> is not the user interface, nothing to terminate";
 
 const char kNoPid[] =
     "[NOTE] mac/mac-service(%d): pid file '<install>/ui.pid' holds no valid pid, nothing to terminate";
 
 Row InitOfAPrivatePidNamespace()
 {
-    Row r = Stranger("InitOfAPrivatePidNamespace", [](ServiceRun&) { return 1; });
+    Row r = Named("InitOfAPrivatePidNamespace", [](ServiceRun&) { return 1; }, {kStranger});
     r.in_child = BelowNamespaceInit;
     r.ui = false; // its pid there is not ours
     return r;
@@ -331,9 +328,9 @@ const Row kStops[] = {
     BadPid("Folder", "/", kNoPid),
     BadPid("WrapsToMinusOne", "pid=4294967295\n", kNoPid), // -1 when cut to 32 bits
     // testsupport::Run forks this process into the launcher, so it is the launcher's parent.
-    Stranger("LaunchersParent", [](ServiceRun&) { return getpid(); }),
-    Stranger("ProcessOfTheSameUser", [](ServiceRun& f) { return f.StartSleeper(false); }),
-    Stranger("ProcessOfAnotherUser", [](ServiceRun& f) { return f.StartSleeper(true); }),
+    Named("LaunchersParent", [](ServiceRun&) { return getpid(); }, {kStranger}),
+    Named("ProcessOfTheSameUser", [](ServiceRun& f) { return f.StartSleeper(false); }, {kStranger}),
+    Named("ProcessOfAnotherUser", [](ServiceRun& f) { return f.StartSleeper(true); }, {kStranger}),
     InitOfAPrivatePidNamespace(),
     Slow("SlowUiIgnoresSigterm", false),
     Slow("SlowUiFileRemovedWhileRunning", true),
@@ -350,11 +347,7 @@ Row RunningOldCopy()
         f.InstallCopy("1200");
         ASSERT_TRUE(WriteFile(f.app_ + "/Contents/Resources/old-only.txt", "old\n") &&
                     MakeDirs(f.install_ + "/app/sub"));
-        vpkpack::PackOptions options;
-        options.format = vpkpack::Format::TarGz;
-        options.info_out = f.bundle_ + "/Contents/Resources/INFO";
-        const vpkpack::Status packed = vpkpack::Pack(f.ClientBundle("1201"), f.package_, options);
-        ASSERT_TRUE(packed.ok()) << packed.Message();
+        f.PackClient("1201", 0, 0, vpkpack::Format::TarGz);
         std::vector<EnvChange> env = f.Env(f.home_);
         env.push_back(Set("CALDERIX_DEMO_UI_EXIT_AFTER_MS", "60000")); // a bound, should the stop fail
         f.pid_ = Start({f.ui_}, env);
