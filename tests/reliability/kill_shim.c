@@ -18,10 +18,10 @@
 //                       remove:N        right after the N-th removal below
 //                                       (or of) Calderix.app_tmp
 //                       trace:FILE      kills nothing; appends a line to FILE
-//                                       for every write, remove, unlink,
-//                                       rmdir and syncfs on a path below (or
-//                                       of) the installation folder: "op
-//                                       path"; and for every kill and sleep:
+//                                       for every write, remove and syncfs on
+//                                       a path below (or of) the installation
+//                                       folder: "op path"; and for every kill
+//                                       and sleep:
 //                                       "kill PID SIG ok|ESRCH|error",
 //                                       "sleep SECONDS"
 //
@@ -226,25 +226,6 @@ ssize_t write(int fd, const void* data, size_t size)
     const ssize_t r = real_write(fd, data, size);
     TracedFd(r > 0 ? 0 : -1, "write", fd);
     return r;
-}
-
-int unlink(const char* path)
-{
-    REAL(unlink)
-    return Traced(real_unlink(path), "unlink", path);
-}
-
-int rmdir(const char* path)
-{
-    REAL(rmdir)
-    return Traced(real_rmdir(path), "rmdir", path);
-}
-
-// Traced only for absolute paths, which is how the upgrade names them.
-int unlinkat(int dirfd, const char* path, int flags)
-{
-    REAL(unlinkat)
-    return Traced(real_unlinkat(dirfd, path, flags), (flags & AT_REMOVEDIR) != 0 ? "rmdir" : "unlink", path);
 }
 
 int syncfs(int fd)
