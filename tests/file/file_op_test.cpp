@@ -3,11 +3,11 @@
 // temporary files).
 #include <filesystem>
 #include <functional>
-#include <set>
 #include <vector>
 
 #include "file-op.h"
 #include "file_test_support.h"
+#include "tree_snapshot.h"
 
 namespace {
 
@@ -16,18 +16,6 @@ namespace fs = std::filesystem;
 
 const auto IsFolder = [](const std::string& path) { return fs::is_directory(fs::symlink_status(path)); };
 const auto ModeOf = [](const std::string& path) { return unsigned(fs::symlink_status(path).permissions()); };
-
-// Every path below folder, relative to it, folders with a final "/".
-std::set<std::string> Listing(const std::string& folder)
-{
-    std::set<std::string> names;
-    std::error_code error;
-    for (fs::recursive_directory_iterator it(folder, error), end; !error && it != end; it.increment(error))
-        names.insert(it->path().lexically_relative(folder).string() + (IsFolder(it->path()) ? "/" : ""));
-    if (error)
-        names.insert("<cannot list " + folder + ": " + error.message() + ">");
-    return names;
-}
 
 // <root>/tree: "a b/one" (1), "a b/deep/two" (22), an NFD name, "empty/".
 bool MakeTree(const std::string& root)
@@ -136,12 +124,12 @@ class CallTest : public TreeTest, public ::testing::WithParamInterface<CallCase>
 
 TEST_P(CallTest, ReturnsItsCodeAndFailsCleanly)
 {
-    const std::set<std::string> before = Listing(root_);
+    const Tree before = Snapshot(root_);
     EXPECT_EQ(GetParam().result,
               GetParam().call([this](const std::string& relative) { return P(relative); }));
     EXPECT_EQ("payload", ReadFile(P("src"))) << "the source was harmed";
     if (GetParam().result != 0) {
-        EXPECT_EQ(before, Listing(root_)) << "a failed call changed the folder";
+        EXPECT_TRUE(SameTree(before, Snapshot(root_))) << "a failed call changed the folder";
     }
 }
 
@@ -218,18 +206,19 @@ TEST_F(CrossDeviceTest, FSRenameMovesEveryEntryOrLosesNoneWhenStopped)
 {
     EXPECT_EQ(0, FSRename(P("tree/a b/one"), other_ / "one", true));
     EXPECT_TRUE(ReadFile(other_ / "one") == "1" && !Exists(P("tree/a b/one"))) << "file not moved";
-    std::set<std::string> before = Listing(P("tree"));
+    Tree before = Snapshot(P("tree"));
     EXPECT_EQ(0, FSRename(P("tree"), other_ / "tree", false));
-    EXPECT_EQ(before, Listing(other_ / "tree"));
+    EXPECT_TRUE(SameTree(before, Snapshot(other_ / "tree")));
     EXPECT_FALSE(Exists(P("tree"))) << "source folder left behind";
 
     // A link does not cross devices, so its folder cannot be removed.
     ASSERT_TRUE(MakeLink("a b/deep/two", other_ / "tree/z-link"));
-    before = Listing(other_ / "tree");
+    before = Snapshot(other_ / "tree");
     EXPECT_EQ(-3, FSRename(other_ / "tree", P("back"), false));
-    const std::set<std::string> moved = Listing(P("back")), left = Listing(other_ / "tree");
-    for (const std::string& entry : before)
-        EXPECT_EQ(1u, moved.count(entry) + left.count(entry)) << entry << " lost or duplicated";
+    const Tree moved = Snapshot(P("back")), left = Snapshot(other_ / "tree");
+    for (const auto& entry : before)
+        EXPECT_EQ(1u, moved.count(entry.first) + left.count(entry.first))
+            << entry.first << " lost or duplicated";
 
     // A file that cannot be copied (a folder holds its name) stops the move at
     // once. tmpfs lists entries in the order they were made (or its reverse),
@@ -240,24 +229,22 @@ TEST_F(CrossDeviceTest, FSRenameMovesEveryEntryOrLosesNoneWhenStopped)
     EXPECT_NE(Exists(other_ / "t/A"), Exists(other_ / "t/B")) << "the move went on after a failed entry";
 }
 
-TEST_F(FileTest, FSRemoveRemovesTreesAndLinksButNeverLinkTargetsAndStopsWhereRefused)
+TEST_F(TreeTest, FSRemoveRemovesTreesAndLinksButNeverLinkTargetsAndStopsWhereRefused)
 {
-    ASSERT_TRUE(MakeTree(root_) && MakeDirs(P("kept")) && WriteFile(P("kept/file"), "k"));
-    ASSERT_TRUE(MakeLink(P("kept"), P("tree/a b/to-kept")) && MakeLink(P("kept"), P("link")));
+    // nobody owns "real" but not "real/sub dir", whose entries it may not remove.
+    ASSERT_EQ(0, chown(P("real").c_str(), 65534, 65534)) << strerror(errno);
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(setgid(65534) != 0 || setuid(65534) != 0 ? 99 : -FSRemove(P("real"), false));
+    const int status = Wait(child);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 3) << "not -3 as nobody: wait status " << status;
+
+    ASSERT_TRUE(MakeTree(root_) && MakeLink(P("real"), P("tree/a b/to-real")));
     EXPECT_EQ(0, FSRemove(P("link"), false));
     EXPECT_EQ(0, FSRemove(P("tree"), false));
     EXPECT_FALSE(Exists(P("tree")) || Exists(P("link")));
-    EXPECT_EQ("k", ReadFile(P("kept/file"))) << "removal followed a link";
-
-    // nobody owns "tree" but not "tree/a b", whose entries it may not remove.
-    ASSERT_TRUE(MakeTree(root_));
-    ASSERT_EQ(0, chown(P("tree").c_str(), 65534, 65534)) << strerror(errno);
-    const pid_t child = fork();
-    if (child == 0)
-        _exit(setgid(65534) != 0 || setuid(65534) != 0 ? 99 : -FSRemove(P("tree"), false));
-    const int status = Wait(child);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 3) << "not -3 as nobody: wait status " << status;
-    EXPECT_EQ("1", ReadFile(P("tree/a b/one")));
+    EXPECT_EQ("12345", ReadFile(P("real/sub dir/data.txt")))
+        << "a refused removal or a followed link took it";
 }
 
 TEST_F(FileTest, TemporaryFilesAndParents)

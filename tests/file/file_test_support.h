@@ -27,14 +27,15 @@ protected:
     void SetUp() override
     {
         root_ = std::filesystem::canonical(tmp_.path());
-        ASSERT_TRUE(chmod(root_.c_str(), 0755) == 0 && WriteFile(P("levels"), "file_op_debug=7\n"));
-        ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, P("test.log").c_str(), P("levels").c_str(), 50));
+        ASSERT_TRUE(chmod(root_.c_str(), 0755) == 0 && WriteFile(logs_ / "levels", "file_op_debug=7\n"));
+        ASSERT_EQ(0, Logger::Initialize(Logger::TYPE_FILE, (logs_ / "test.log").c_str(),
+                                        (logs_ / "levels").c_str(), 50));
     }
     void TearDown() override { Logger::Destroy(); }
 
     std::string P(const std::string& relative) const { return root_ + "/" + relative; }
 
-    testsupport::TempDir tmp_{"calderix-file"};
+    testsupport::TempDir tmp_{"calderix-file"}, logs_{"calderix-file-log"};
     std::string root_;
 };
 
