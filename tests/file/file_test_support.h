@@ -20,8 +20,9 @@ inline bool MakeLink(const std::string& target, const std::string& link)
 }
 
 // A fresh folder, named by its real path (canonical paths are compared with
-// it) and open to children run as nobody; the file module logs into it at
-// its most verbose, so that every message is formatted.
+// it) and open to children run as nobody. The file module logs at its most
+// verbose, so that every message is formatted, into a folder beside it: the
+// tree holds only what the test made.
 class FileTest : public ::testing::Test {
 protected:
     void SetUp() override
