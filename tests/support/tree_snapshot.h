@@ -23,8 +23,9 @@ inline Tree Snapshot(const std::string& root)
     std::error_code ec;
     for (fs::recursive_directory_iterator it(root, ec), end; !ec && it != end; it.increment(ec)) {
         const fs::file_status st = fs::symlink_status(it->path());
-        const bool x = (st.permissions() & (fs::perms::owner_exec | fs::perms::group_exec |
-                                            fs::perms::others_exec)) != fs::perms::none;
+        const bool x =
+            (st.permissions() & (fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec)) !=
+            fs::perms::none;
         tree[it->path().lexically_relative(root).string()] =
             fs::is_symlink(st)     ? "link " + fs::read_symlink(it->path()).string()
             : fs::is_directory(st) ? std::string("dir")
