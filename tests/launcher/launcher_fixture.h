@@ -206,8 +206,8 @@ public:
     }
 
     // A run's environment with the kill shim preloaded, acting at at
-    // ("trace": tracing into root_/trace). The shim comes ahead of the sanitizer's runtime, which is harmless
-    // here: it only forwards calls.
+    // ("trace": tracing into root_/trace). The shim comes ahead of the
+    // sanitizer's runtime, which is harmless here: it only forwards calls.
     std::vector<testsupport::EnvChange> ShimEnv(const std::string& at) const
     {
         std::vector<testsupport::EnvChange> env = Env(home_);
