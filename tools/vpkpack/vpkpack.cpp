@@ -199,6 +199,11 @@ Status WritePackage(int fd, const std::string& output, const std::vector<Entry>&
     if (!opened) {
         return ArchiveFailure(writer.get(), output);
     }
+    // A failed write of the package itself (a full disk, say) is told as
+    // such, not as whatever libarchive was doing at the time.
+    const auto failed = [&zstd, &output](const Status& status) {
+        return zstd.WriteError() != 0 ? platform::FromErrno(zstd.WriteError(), output) : status;
+    };
     for (const Entry& entry : entries) {
         const bool is_info = entry.name == kInfoEntry;
         const int64_t size = is_info ? static_cast<int64_t>(info_data.size()) : entry.size;
@@ -207,23 +212,21 @@ Status WritePackage(int fd, const std::string& output, const std::vector<Entry>&
             return Refuse(Error::ArchiveError, entry.name, "cannot allocate an entry");
         }
         if (archive_write_header(writer.get(), header.get()) != ARCHIVE_OK) {
-            return ArchiveFailure(writer.get(), entry.name);
+            return failed(ArchiveFailure(writer.get(), entry.name));
         }
         if (entry.type == EntryType::File) {
             status = is_info ? WriteData(writer.get(), info_data.data(), info_data.size(), entry.name)
                              : CopyFileData(writer.get(), entry);
             if (!status.ok()) {
-                return status;
+                return failed(status);
             }
         }
         if (archive_write_finish_entry(writer.get()) != ARCHIVE_OK) {
-            return ArchiveFailure(writer.get(), entry.name);
+            return failed(ArchiveFailure(writer.get(), entry.name));
         }
     }
-    if (archive_write_close(writer.get()) != ARCHIVE_OK) {
-        return ArchiveFailure(writer.get(), output);
-    }
-    return {};
+    const bool closed = archive_write_close(writer.get()) == ARCHIVE_OK;
+    return failed(closed ? Status() : ArchiveFailure(writer.get(), output));
 }
 
 // OutputInsideBundle when path would be written somewhere below bundle_dir.

@@ -119,6 +119,10 @@ public:
     // archive_write_open on a, compressing at level with threads workers
     // (at least 1); false with the archive's error set.
     bool Open(archive* a, int fd, int level, int threads);
+    // The errno of the first failed write to the file, 0 when none failed.
+    // libarchive ignores what the close callback returns, and the frame's
+    // last blocks are written there, so the writer must ask.
+    int WriteError() const { return write_error_; }
 
 private:
     bool Compress(archive* a, const void* data, size_t size, bool end);
@@ -126,6 +130,7 @@ private:
     static int CloseCallback(archive* a, void* self);
 
     int fd_ = -1;
+    int write_error_ = 0;
     ZSTD_CCtx_s* cctx_ = nullptr;
     std::vector<char> out_;
 };

@@ -58,7 +58,8 @@ bool ZstdSink::Compress(archive* a, const void* data, size_t size, bool end)
                 continue;
             }
             if (n <= 0) {
-                archive_set_error(a, n < 0 ? errno : EIO, "cannot write the package");
+                write_error_ = n < 0 ? errno : EIO;
+                archive_set_error(a, write_error_, "cannot write the package");
                 return false;
             }
             next += n;
