@@ -5,6 +5,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <sched.h>
+#include <sys/mount.h>
 #include <tuple>
 
 #include <gtest/gtest.h>
@@ -295,6 +297,26 @@ TEST_F(PackTest, ZstdPackageIsTheSameWhateverTheThreads)
     options.level = 6;
     ASSERT_TRUE(vpkpack::Pack(bundle_, out_, options).ok());
     EXPECT_FALSE(ReadFile(out_) == one_thread) << "level 6 wrote what level 1 wrote";
+}
+
+// Packing onto a full disk says so: the output folder is a 64 KiB tmpfs of
+// the child's own, in a user and mount namespace, and the package does not fit.
+TEST_F(PackTest, FullDiskIsReportedAsSuch)
+{
+    Put("Contents/Resources/noise", NoiseBytes(256 << 10, 5));
+    const std::string full = tmp_ / "full";
+    ASSERT_TRUE(testsupport::MakeDirs(full)) << full << ": " << std::strerror(errno);
+    const testsupport::ProcessResult cli =
+        testsupport::Run({VPKPACK_BIN, bundle_, full + "/calderix.vpk"}, {}, [&full] {
+            testsupport::EnterUserNamespace(CLONE_NEWNS);
+            if (mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+                mount("tmpfs", full.c_str(), "tmpfs", 0, "size=64k") != 0) {
+                perror("small tmpfs");
+                _exit(127);
+            }
+        });
+    EXPECT_EQ(1, cli.exit_code) << cli.err;
+    EXPECT_NE(std::string::npos, cli.err.find("vpkpack: no space left on device")) << cli.err;
 }
 
 // The default package carries a checksum: damage anywhere, down to one
