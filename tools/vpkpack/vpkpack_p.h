@@ -119,7 +119,7 @@ public:
     // archive_write_open on a, compressing at level with threads workers
     // (at least 1); false with the archive's error set.
     bool Open(archive* a, int fd, int level, int threads);
-    // The errno of the first failed write to the file, 0 when none failed.
+    // The errno of the last failed write to the file, 0 when none failed.
     // libarchive ignores what the close callback returns, and the frame's
     // last blocks are written there, so the writer must ask.
     int WriteError() const { return write_error_; }
